@@ -1,0 +1,71 @@
+// EstadoGL: all that modOpenGL keeps, in one place. Private to gl/.
+//
+// The wish for a context (superficie set) outlives the context itself: when the control moves to another
+// window Perder gives the objects back, Rehacer builds them for the new context.
+#pragma once
+
+#include "AtlasTexto.h"
+#include "LoteGL.h"
+#include "modOpenGL.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+
+#include <QOpenGLExtraFunctions>
+
+namespace modOpenGL {
+
+// One of our two frame buffers; its sides in device pixels.
+struct BufferFrame
+{
+    GLuint fbo = 0;
+    GLuint color = 0; // render buffer, RGBA8
+    int ancho = 0;
+    int alto = 0;
+    double escala = 1.0; // device pixels to a logical one
+};
+
+struct EstadoGL
+{
+    SuperficieGL* superficie = nullptr;
+    QOpenGLExtraFunctions* gl = nullptr; // of the live context, otherwise null
+    bool listo = false;
+    bool suprimida = false;
+    QString ultimoError;
+
+    BufferFrame fondo;  // being drawn
+    BufferFrame frente; // on show
+    bool hayFrente = false;
+    double ancho = 0, alto = 0; // logical size of the frame being drawn
+    bool vector = false;        // overlay stage
+    trazo::Lapiz lapiz;
+    LoteGL lote;
+    AtlasTexto atlas;
+
+    QHash<QString, GLuint> registro; // path to texture
+    QSet<GLuint> sueltas;            // large textures and captured frames
+    ContadoresGL contadores;
+
+    // The context current; false if there is none or it refuses.
+    bool HacerActual();
+    // Draws the batch into the back buffer.
+    void Volcar();
+    // Texture with linear filters and clamped edges, level 0 only; pixels R, G, B, A or null.
+    GLuint CrearTextura(int lado_x, int lado_y, const void* pixeles);
+    // Deletes it after drawing what may still want it.
+    void BorrarTextura(GLuint textura);
+    // A mesh for untextured shapes and texts.
+    trazo::Malla& Formas() { return lote.Abrir(atlas.Textura(), vector); }
+    trazo::Malla& FormasMezcladas() { return lote.Abrir(atlas.Textura(), true); }
+};
+
+EstadoGL& Estado();
+
+// What SuperficieGL reports.
+bool RehacerContexto(SuperficieGL* superficie); // true if this surface was in use and is ready again
+void PerderContexto(SuperficieGL* superficie);
+void CopiarFrente(SuperficieGL* superficie, unsigned int destino, int ancho, int alto);
+void OlvidarSuperficie(SuperficieGL* superficie);
+
+} // namespace modOpenGL

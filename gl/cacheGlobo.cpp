@@ -22,9 +22,9 @@ QString NombreCache(const QString& carpeta, const QString& origen, int maxAncho,
 {
     const QFileInfo info(origen);
     // Joined, not filled in: a source may have a "%" in its name.
-    return carpeta + u"/cache_globo_" + info.completeBaseName() + u'_' +
-           QString::number(info.exists() ? info.size() : 0) + u'_' + QString::number(maxAncho) + u'x' +
-           QString::number(maxAlto) + u".raw";
+    return carpeta + QStringLiteral("/cache_globo_") + info.completeBaseName() + QLatin1Char('_') +
+           QString::number(info.exists() ? info.size() : 0) + QLatin1Char('_') + QString::number(maxAncho) +
+           QLatin1Char('x') + QString::number(maxAlto) + QStringLiteral(".raw");
 }
 
 bool LeerCache(const QString& ruta, Imagen& imagen)

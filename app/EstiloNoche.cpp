@@ -2,11 +2,10 @@
 
 #include "paleta.h"
 
+#include <QIcon>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPixmap>
 #include <QStyleOption>
-
-#include <algorithm>
 
 namespace {
 
@@ -47,6 +46,18 @@ QRectF Orilla(const QRect& r)
     return QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5);
 }
 
+// A tick in r, for boxes and menus.
+void PintarMarca(QPainter* p, const QRectF& r, const QColor& color)
+{
+    const auto punto = [&](double x, double y) {
+        return QPointF(r.left() + x * r.width(), r.top() + y * r.height());
+    };
+    p->setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p->setBrush(Qt::NoBrush);
+    const QPointF trazo[] = {punto(0.25, 0.52), punto(0.43, 0.70), punto(0.76, 0.32)};
+    p->drawPolyline(trazo, 3);
+}
+
 void PintarCasilla(QPainter* p, const QStyleOption& o)
 {
     const Guardado guardado(p);
@@ -55,18 +66,13 @@ void PintarCasilla(QPainter* p, const QStyleOption& o)
     p->setPen(QPen(marcada && viva && !(o.state & QStyle::State_HasFocus) ? paleta::kAcento : Borde(o), 1.0));
     p->setBrush(!marcada ? paleta::kCampo : viva ? paleta::kAcentoOscuro : paleta::kBoton);
     p->drawRoundedRect(Orilla(o.rect), kRadio, kRadio);
-    const QRectF r(o.rect);
-    const auto punto = [&](double x, double y) {
-        return QPointF(r.left() + x * r.width(), r.top() + y * r.height());
-    };
-    p->setPen(
-        QPen(viva ? paleta::kTexto : paleta::kTextoInerte, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    p->setBrush(Qt::NoBrush);
+    const QColor color = viva ? paleta::kTexto : paleta::kTextoInerte;
     if (o.state & QStyle::State_NoChange) {
-        p->drawLine(punto(0.27, 0.5), punto(0.73, 0.5));
+        const QPointF c = QRectF(o.rect).center();
+        p->setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap));
+        p->drawLine(c - QPointF(3.5, 0), c + QPointF(3.5, 0));
     } else if (o.state & QStyle::State_On) {
-        const QPointF trazo[] = {punto(0.25, 0.52), punto(0.43, 0.70), punto(0.76, 0.32)};
-        p->drawPolyline(trazo, 3);
+        PintarMarca(p, o.rect, color);
     }
 }
 
@@ -141,6 +147,29 @@ void PintarBarra(QPainter* p, const QStyleOptionSlider& o, const QRect& carril, 
     p->drawRoundedRect(QRectF(pulgar).adjusted(m, m, -m, -m), kRadio + 1, kRadio + 1);
 }
 
+// The sign of a message box: a letter in a ring.
+QIcon IconoMensaje(QChar letra, const QColor& color)
+{
+    QIcon icono;
+    for (const int lado : {16, 24, 32, 48, 64, 96}) {
+        QPixmap imagen(lado, lado);
+        imagen.fill(Qt::transparent);
+        QPainter p(&imagen);
+        p.setRenderHint(QPainter::Antialiasing);
+        const double grueso = lado / 16.0;
+        p.setPen(QPen(color, grueso));
+        p.drawEllipse(QRectF(0, 0, lado, lado).adjusted(grueso, grueso, -grueso, -grueso));
+        QFont f;
+        f.setPixelSize(lado * 5 / 8);
+        f.setBold(true);
+        p.setFont(f);
+        p.drawText(QRect(0, 0, lado, lado), Qt::AlignCenter, letra);
+        p.end();
+        icono.addPixmap(imagen);
+    }
+    return icono;
+}
+
 } // namespace
 
 EstiloNoche::EstiloNoche() : QProxyStyle(QStringLiteral("Fusion"))
@@ -158,6 +187,11 @@ void EstiloNoche::drawPrimitive(PrimitiveElement elemento, const QStyleOption* o
     case PE_IndicatorRadioButton:
         PintarOpcion(p, *opcion);
         return;
+    case PE_IndicatorMenuCheckMark: {
+        const Guardado guardado(p);
+        PintarMarca(p, opcion->rect, paleta::kAcento);
+        return;
+    }
     case PE_FrameFocusRect: { // round the words of a check box; the others show focus by their edge
         const Guardado guardado(p);
         p->setPen(QPen(paleta::kAcento, 1.0));
@@ -207,6 +241,21 @@ int EstiloNoche::pixelMetric(PixelMetric medida, const QStyleOption* opcion, con
         return 7;
     default:
         return QProxyStyle::pixelMetric(medida, opcion, w);
+    }
+}
+
+QIcon EstiloNoche::standardIcon(StandardPixmap cual, const QStyleOption* opcion, const QWidget* w) const
+{
+    switch (cual) {
+    case SP_MessageBoxQuestion:
+        return IconoMensaje(QLatin1Char('?'), paleta::kAcento);
+    case SP_MessageBoxInformation:
+        return IconoMensaje(QLatin1Char('i'), paleta::kTextoTenue);
+    case SP_MessageBoxWarning:
+    case SP_MessageBoxCritical:
+        return IconoMensaje(QLatin1Char('!'), paleta::kAcento);
+    default:
+        return QProxyStyle::standardIcon(cual, opcion, w);
     }
 }
 

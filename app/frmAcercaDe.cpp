@@ -40,7 +40,6 @@ void frmAcercaDe::ConstruirControles()
     lblVersion->setObjectName(QStringLiteral("lblVersion"));
     lblQueEs = new QLabel(this);
     lblQueEs->setObjectName(QStringLiteral("lblQueEs"));
-    lblQueEs->setWordWrap(true);
     cmdCerrar = new QPushButton(this);
     cmdCerrar->setObjectName(QStringLiteral("cmdCerrar"));
     cmdCerrar->setDefault(true);

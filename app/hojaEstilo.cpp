@@ -22,19 +22,19 @@ QLabel[rol="seccion"], QLabel#cabezaSeccion {
 QGroupBox { border: 1px solid @borde; border-radius: 3px; margin-top: 9px; padding: 9px 7px 7px 7px; }
 QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0px 4px; color: @acento; }
 
-QLineEdit, QPlainTextEdit, QTextEdit, QSpinBox, QDoubleSpinBox {
+QLineEdit, QPlainTextEdit, QTextEdit {
     background: @campo; color: @texto; border: 1px solid @borde; border-radius: 3px; padding: 3px 5px;
     selection-background-color: @acentoOscuro; selection-color: @texto;
 }
 QLineEdit:hover { border-color: @inerte; }
-QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QSpinBox:focus, QDoubleSpinBox:focus {
+QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus {
     border-color: @acento;
 }
 QLineEdit:disabled { background: @ventana; color: @inerte; }
 
 QPushButton {
     background: @boton; color: @texto; border: 1px solid @borde; border-radius: 3px;
-    padding: 4px 10px; min-height: 16px;
+    padding: 4px 10px; min-height: 16px; outline: none;
 }
 QPushButton:hover { background: @encima; }
 QPushButton:pressed { background: @campo; }
@@ -59,9 +59,6 @@ QAbstractItemView {
 }
 QAbstractItemView:focus { border-color: @acento; }
 QListView { padding: 2px; }
-QListView::item { padding: 2px 4px; }
-QListView::item:hover { background: @panel; }
-QListView::item:selected, QListView::item:selected:hover { background: @acentoOscuro; color: @texto; }
 QHeaderView::section {
     background: @panel; color: @tenue; border: none; border-bottom: 1px solid @borde; padding: 3px 5px;
 }

@@ -12,6 +12,7 @@ SuperficieGL::SuperficieGL(QWidget* padre) : QOpenGLWidget(padre)
     formato.setProfile(QSurfaceFormat::CoreProfile);
     formato.setSwapInterval(0); // frames follow the hand and the timers, not the screen
     setFormat(formato);
+    setMouseTracking(true);
 }
 
 SuperficieGL::~SuperficieGL()

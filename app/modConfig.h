@@ -45,7 +45,7 @@ void LeerConfig();
 // is no target: those keep what the file holds.
 void GuardarConfig();
 
-// One value of the settings file; the default when section or key is missing or nothing stands there.
+// One value of the settings file; the default when section or key is missing.
 QString LeerIni(QStringView seccion, QStringView clave, const QString& porDefecto = {});
 void EscribirIni(QStringView seccion, QStringView clave, QStringView valor);
 

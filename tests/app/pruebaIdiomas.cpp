@@ -126,7 +126,7 @@ QList<Grupo> Grupos(const modI18n::Tabla& t)
     QStringList parada = ventana;
     parada.removeOne(QStringLiteral("main.btn.play"));
     parada << QStringLiteral("main.btn.parar");
-    return {
+    QList<Grupo> grupos{
         {"the tools menu", herramientas, {}},
         {"the settings menu",
          {QStringLiteral("menu.cache")},
@@ -137,6 +137,21 @@ QList<Grupo> Grupos(const modI18n::Tabla& t)
         {"the main window, playing", parada, {}},
         {"a question", {QStringLiteral("msg.si"), QStringLiteral("msg.no")}, {}},
     };
+    // Every other family is one window.
+    std::map<QString, QStringList> ventanas;
+    for (const QString& clave : t.keys()) {
+        const QString familia = clave.section(u'.', 0, 0);
+        static const QSet<QString> kDeLaPrincipal{QStringLiteral("app"), QStringLiteral("menu"),
+                                                  QStringLiteral("main"), QStringLiteral("msg"),
+                                                  QStringLiteral("descarga")};
+        if (!kDeLaPrincipal.contains(familia)) {
+            ventanas[familia] << clave;
+        }
+    }
+    for (const auto& [familia, claves] : ventanas) {
+        grupos.push_back({"a tool window", claves, {}});
+    }
+    return grupos;
 }
 
 } // namespace

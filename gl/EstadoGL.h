@@ -10,6 +10,7 @@
 
 #include <QHash>
 #include <QSet>
+#include <QSize>
 #include <QString>
 
 #include <QOpenGLExtraFunctions>
@@ -45,6 +46,7 @@ struct EstadoGL
 
     QHash<QString, GLuint> registro; // path to texture
     QSet<GLuint> sueltas;            // large textures and captured frames
+    QHash<GLuint, QSize> lados;      // of both kinds, in texels
     ContadoresGL contadores;
 
     // The context current; false if there is none or it refuses.
@@ -55,9 +57,12 @@ struct EstadoGL
     GLuint CrearTextura(int lado_x, int lado_y, const void* pixeles);
     // Deletes it after drawing what may still want it.
     void BorrarTextura(GLuint textura);
-    // A mesh for untextured shapes and texts.
-    trazo::Malla& Formas() { return lote.Abrir(atlas.Textura(), vector); }
-    trazo::Malla& FormasMezcladas() { return lote.Abrir(atlas.Textura(), true); }
+    // The whole of a texture, drawn in so many picture pixels from a whole device pixel on, comes out texel
+    // on pixel.
+    bool Exacta(GLuint textura, double w, double h) const;
+    // A mesh for untextured shapes and texts, which always do.
+    trazo::Malla& Formas() { return lote.Abrir(atlas.Textura(), vector, true); }
+    trazo::Malla& FormasMezcladas() { return lote.Abrir(atlas.Textura(), true, true); }
 };
 
 EstadoGL& Estado();

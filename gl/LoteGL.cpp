@@ -74,6 +74,12 @@ bool LoteGL::Crear(QOpenGLExtraFunctions* funciones)
     atributo(2, 4, GL_UNSIGNED_BYTE, offsetof(trazo::Vertice, tinta));
     formato->release();
     programa->release();
+
+    gl->glGenSamplers(1, &sinFiltro);
+    gl->glSamplerParameteri(sinFiltro, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    gl->glSamplerParameteri(sinFiltro, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    gl->glSamplerParameteri(sinFiltro, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+    gl->glSamplerParameteri(sinFiltro, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
     return true;
 }
 
@@ -86,7 +92,9 @@ void LoteGL::Liberar()
         gl->glDeleteBuffers(1, &bufferVertices);
     if (bufferIndices != 0)
         gl->glDeleteBuffers(1, &bufferIndices);
-    bufferVertices = bufferIndices = 0;
+    if (sinFiltro != 0)
+        gl->glDeleteSamplers(1, &sinFiltro);
+    bufferVertices = bufferIndices = sinFiltro = 0;
     formato.reset();
     programa.reset();
     gl = nullptr;
@@ -99,10 +107,11 @@ void LoteGL::Vaciar()
     ordenes.clear();
 }
 
-trazo::Malla& LoteGL::Abrir(GLuint textura, bool mezcla)
+trazo::Malla& LoteGL::Abrir(GLuint textura, bool mezcla, bool exacta)
 {
-    if (ordenes.empty() || ordenes.back().textura != textura || ordenes.back().mezcla != mezcla)
-        ordenes.push_back({textura, mezcla, malla.indices.size()});
+    if (ordenes.empty() || ordenes.back().textura != textura || ordenes.back().mezcla != mezcla ||
+        ordenes.back().exacta != exacta)
+        ordenes.push_back({textura, mezcla, exacta, malla.indices.size()});
     return malla;
 }
 
@@ -152,12 +161,14 @@ void LoteGL::Dibujar(double ancho, double alto, int& dibujos, int& vertices)
             gl->glDisable(GL_BLEND);
         programa->setUniformValue(uOpaco, o.mezcla ? 0.0F : 1.0F);
         gl->glBindTexture(GL_TEXTURE_2D, o.textura);
+        gl->glBindSampler(0, o.exacta ? sinFiltro : 0);
         gl->glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(hasta - o.desde), GL_UNSIGNED_INT,
                            reinterpret_cast<const void*>(o.desde * sizeof(std::uint32_t)));
         ++dibujos;
     }
     vertices += static_cast<int>(malla.vertices.size());
     gl->glDisable(GL_BLEND);
+    gl->glBindSampler(0, 0);
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     formato->release();
     programa->release();

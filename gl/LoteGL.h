@@ -2,7 +2,8 @@
 //
 // Shapes go into a mesh, cut into orders wherever texture or blending changes; drawing sends the mesh into
 // one vertex and one index buffer, which live as long as the context and only grow, and issues one draw
-// call per order. Everything but Malla() wants the context current.
+// call per order. A texture drawn texel on pixel is read without filtering: the same colours for half the
+// price on a software driver. Everything but Malla() wants the context current.
 #pragma once
 
 #include "trazo.h"
@@ -25,8 +26,9 @@ public:
     void Vaciar();
     bool Vacio() const { return malla.indices.empty(); }
 
-    // The mesh, with an order open for this texture and blending. A reference is good until the next call.
-    trazo::Malla& Abrir(GLuint textura, bool mezcla);
+    // The mesh, with an order open for this texture and blending; `exacta` promises that texels fall on whole
+    // device pixels one to one. A reference is good until the next call.
+    trazo::Malla& Abrir(GLuint textura, bool mezcla, bool exacta);
 
     // Draws into the bound frame buffer with the projection (0, 0) top left to (ancho, alto), then empties
     // the batch. Adds to the two counts.
@@ -37,6 +39,7 @@ private:
     {
         GLuint textura;
         bool mezcla;
+        bool exacta;
         std::size_t desde; // first index
     };
     void Enviar();
@@ -45,6 +48,7 @@ private:
     std::unique_ptr<QOpenGLShaderProgram> programa;
     std::unique_ptr<QOpenGLVertexArrayObject> formato;
     GLuint bufferVertices = 0, bufferIndices = 0;
+    GLuint sinFiltro = 0;                           // sampler: nearest texel
     GLsizeiptr cabenVertices = 0, cabenIndices = 0; // bytes
     int uEscala = -1, uOpaco = -1;
     trazo::Malla malla;

@@ -70,6 +70,7 @@ void Derribar(EstadoGL& e)
         e.gl->glDeleteTextures(1, &t);
     e.registro.clear();
     e.sueltas.clear();
+    e.lados.clear();
     e.atlas.Liberar();
     SoltarBuffer(e, e.fondo);
     SoltarBuffer(e, e.frente);
@@ -326,11 +327,12 @@ std::int32_t CapturarFrame(int ancho, int alto)
 void DibujarFrameCapturado(std::int32_t id, int ancho, int alto, double alfa)
 {
     EstadoGL& e = Estado();
-    if (!e.HacerActual() || id <= 0 || !(alfa > 0.0))
+    if (!e.HacerActual() || !e.lados.contains(static_cast<GLuint>(id)) || !(alfa > 0.0))
         return;
     // A captured frame has its bottom row first.
-    trazo::Estampa(e.lote.Abrir(static_cast<GLuint>(id), true), {0.0, 0.0}, ancho, alto, 0.0F, 1.0F, 1.0F,
-                   0.0F, trazo::TintaDe(RGB(255, 255, 255), alfa));
+    const auto textura = static_cast<GLuint>(id);
+    trazo::Estampa(e.lote.Abrir(textura, true, e.Exacta(textura, ancho, alto)), {0.0, 0.0}, ancho, alto, 0.0F,
+                   1.0F, 1.0F, 0.0F, trazo::TintaDe(RGB(255, 255, 255), alfa));
 }
 
 void BorrarFrameCapturado(std::int32_t id)

@@ -31,9 +31,14 @@ void Estampar(EstadoGL& e, std::int32_t textura, double x, double y, double anch
 {
     if (textura <= 0 || x > e.ancho || y > e.alto || x + ancho < 0.0 || y + alto < 0.0)
         return;
-    trazo::Estampa(e.lote.Abrir(static_cast<GLuint>(textura), mezcla), {x, y}, ancho, alto,
-                   static_cast<float>(s0), static_cast<float>(t0), static_cast<float>(s1),
-                   static_cast<float>(t1), trazo::TintaDe(kBlanco, alfa));
+    const auto id = static_cast<GLuint>(textura);
+    const double escala = e.fondo.escala;
+    const bool exacta = s0 == 0.0 && t0 == 0.0 && s1 == 1.0 && t1 == 1.0 &&
+                        std::floor(x * escala) == x * escala && std::floor(y * escala) == y * escala &&
+                        e.Exacta(id, ancho, alto);
+    trazo::Estampa(e.lote.Abrir(id, mezcla, exacta), {x, y}, ancho, alto, static_cast<float>(s0),
+                   static_cast<float>(t0), static_cast<float>(s1), static_cast<float>(t1),
+                   trazo::TintaDe(kBlanco, alfa));
 }
 
 } // namespace

@@ -26,13 +26,21 @@ GLuint EstadoGL::CrearTextura(int ladoX, int ladoY, const void* pixeles)
     gl->glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, ladoX, ladoY, 0, GL_RGBA, GL_UNSIGNED_BYTE, pixeles);
     ++contadores.texturasCreadas;
+    lados.insert(textura, {ladoX, ladoY});
     return textura;
 }
 
 void EstadoGL::BorrarTextura(GLuint textura)
 {
     Volcar();
+    lados.remove(textura);
     gl->glDeleteTextures(1, &textura);
+}
+
+bool EstadoGL::Exacta(GLuint textura, double w, double h) const
+{
+    const QSize lado = lados.value(textura);
+    return w * fondo.escala == lado.width() && h * fondo.escala == lado.height();
 }
 
 std::int32_t ObtenerTextura(const QString& ruta)
@@ -66,8 +74,10 @@ void VaciarTexturas()
     if (!e.HacerActual())
         return;
     e.Volcar();
-    for (const GLuint textura : std::as_const(e.registro))
+    for (const GLuint textura : std::as_const(e.registro)) {
+        e.lados.remove(textura);
         e.gl->glDeleteTextures(1, &textura);
+    }
     e.registro.clear();
 }
 

@@ -204,6 +204,16 @@ QString ConSeparador(std::string_view texto, const QString& decimal)
     return r;
 }
 
+// A whole number with zeros before it up to a width; lists of some thousand dates pass here.
+void AnadirCifras(QString& texto, int n, int ancho)
+{
+    const QString cifras = QString::number(n);
+    for (qsizetype i = cifras.size(); i < ancho; ++i) {
+        texto += u'0';
+    }
+    texto += cifras;
+}
+
 } // namespace
 
 const Separadores& SeparadoresSistema()
@@ -311,16 +321,25 @@ std::int16_t LeerEntero16(QStringView texto)
 
 QString TextoFecha(int anio, int mes, int dia)
 {
-    return QStringLiteral("%1/%2/%3")
-        .arg(dia, 2, 10, QLatin1Char('0'))
-        .arg(mes, 2, 10, QLatin1Char('0'))
-        .arg(anio, 4, 10, QLatin1Char('0'));
+    QString texto;
+    texto.reserve(10);
+    AnadirCifras(texto, dia, 2);
+    texto += u'/';
+    AnadirCifras(texto, mes, 2);
+    texto += u'/';
+    AnadirCifras(texto, anio, 4);
+    return texto;
 }
 
 QString TextoReloj(int minutos)
 {
     const int m = std::max(minutos, 0);
-    return QStringLiteral("%1:%2").arg(m / 60, 2, 10, QLatin1Char('0')).arg(m % 60, 2, 10, QLatin1Char('0'));
+    QString texto;
+    texto.reserve(5);
+    AnadirCifras(texto, m / 60, 2);
+    texto += u':';
+    AnadirCifras(texto, m % 60, 2);
+    return texto;
 }
 
 } // namespace modFormato

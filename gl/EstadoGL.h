@@ -17,11 +17,12 @@
 
 namespace modOpenGL {
 
-// One of our two frame buffers; its sides in device pixels.
+// One of our two frame buffers; its sides in device pixels. Its first row is the top one, as in every
+// picture.
 struct BufferFrame
 {
     GLuint fbo = 0;
-    GLuint color = 0; // render buffer, RGBA8
+    GLuint color = 0; // texture, RGBA8
     int ancho = 0;
     int alto = 0;
     double escala = 1.0; // device pixels to a logical one
@@ -67,10 +68,11 @@ struct EstadoGL
 
 EstadoGL& Estado();
 
-// What SuperficieGL reports.
+// What SuperficieGL reports and asks.
 bool RehacerContexto(SuperficieGL* superficie); // true if this surface was in use and is ready again
 void PerderContexto(SuperficieGL* superficie);
 void CopiarFrente(SuperficieGL* superficie, unsigned int destino, int ancho, int alto);
+void LeerFrente(SuperficieGL* superficie, QImage& imagen); // null without a front frame
 void OlvidarSuperficie(SuperficieGL* superficie);
 
 } // namespace modOpenGL

@@ -15,7 +15,7 @@ out vec2 st;
 out vec4 color;
 void main()
 {
-    gl_Position = vec4(posicion.x * escala.x - 1.0, 1.0 - posicion.y * escala.y, 0.0, 1.0);
+    gl_Position = vec4(posicion * escala - 1.0, 0.0, 1.0); // the frame's first row is its top
     st = coordenada;
     color = tinta;
 }

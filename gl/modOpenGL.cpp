@@ -4,7 +4,6 @@
 #include "EstadoGL.h"
 #include "SuperficieGL.h"
 
-#include <QOffscreenSurface>
 #include <QOpenGLContext>
 
 #include <algorithm>
@@ -15,20 +14,24 @@ namespace modOpenGL {
 namespace {
 
 constexpr float kGrisVacio = 0.5F;
+constexpr GLenum kOrdenQImage = 0x8367; // GL_UNSIGNED_INT_8_8_8_8_REV: 0xAARRGGBB with GL_BGRA
 
 bool AjustarBuffer(EstadoGL& e, BufferFrame& b, int ancho, int alto)
 {
     if (b.fbo == 0) {
         e.gl->glGenFramebuffers(1, &b.fbo);
-        e.gl->glGenRenderbuffers(1, &b.color);
+        e.gl->glGenTextures(1, &b.color);
         e.contadores.buffersCreados += 2;
     }
     e.gl->glBindFramebuffer(GL_FRAMEBUFFER, b.fbo);
     if (b.ancho == ancho && b.alto == alto)
         return true;
-    e.gl->glBindRenderbuffer(GL_RENDERBUFFER, b.color);
-    e.gl->glRenderbufferStorage(GL_RENDERBUFFER, GL_RGBA8, ancho, alto);
-    e.gl->glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, b.color);
+    // Asked for in the order of a QImage, which spares software drivers a conversion when it is read.
+    e.gl->glBindTexture(GL_TEXTURE_2D, b.color);
+    e.gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+    e.gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+    e.gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, ancho, alto, 0, GL_BGRA, kOrdenQImage, nullptr);
+    e.gl->glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, b.color, 0);
     b.ancho = ancho;
     b.alto = alto;
     return e.gl->glCheckFramebufferStatus(GL_FRAMEBUFFER) == GL_FRAMEBUFFER_COMPLETE;
@@ -38,7 +41,7 @@ void SoltarBuffer(EstadoGL& e, BufferFrame& b)
 {
     if (b.fbo != 0) {
         e.gl->glDeleteFramebuffers(1, &b.fbo);
-        e.gl->glDeleteRenderbuffers(1, &b.color);
+        e.gl->glDeleteTextures(1, &b.color);
     }
     b = {};
 }
@@ -46,7 +49,7 @@ void SoltarBuffer(EstadoGL& e, BufferFrame& b)
 // Everything that a live context holds for us. The context must be current.
 bool Construir(EstadoGL& e)
 {
-    e.gl = e.superficie->context()->extraFunctions();
+    e.gl = e.superficie->Contexto()->extraFunctions();
     if (!AjustarBuffer(e, e.fondo, 1, 1) || !e.lote.Crear(e.gl)) {
         e.ultimoError = QStringLiteral("SetPixelFormat fallo fmt=%1").arg(GL_RGBA8);
         return false;
@@ -78,26 +81,6 @@ void Derribar(EstadoGL& e)
     e.gl = nullptr;
 }
 
-// Why a surface has no context: the texts name the steps of the platform that the design was made on, and
-// each failure takes the nearest one.
-QString PorQueNo(const SuperficieGL* superficie)
-{
-    if (superficie != nullptr && superficie->isVisible()) {
-        QOpenGLContext ensayo;
-        ensayo.setFormat(superficie->format());
-        if (!ensayo.create())
-            return QStringLiteral("wglCreateContext fallo");
-        QOffscreenSurface lugar;
-        lugar.setFormat(ensayo.format());
-        lugar.create();
-        if (!ensayo.makeCurrent(&lugar))
-            return QStringLiteral("wglMakeCurrent fallo");
-        ensayo.doneCurrent();
-    }
-    const quint64 ventana = superficie != nullptr ? superficie->window()->winId() : 0;
-    return QStringLiteral("GetDC fallo (hWnd=%1)").arg(ventana);
-}
-
 } // namespace
 
 EstadoGL& Estado()
@@ -110,10 +93,10 @@ bool EstadoGL::HacerActual()
 {
     if (!listo)
         return false;
-    QOpenGLContext* contexto = superficie->context();
-    if (QOpenGLContext::currentContext() != contexto)
-        superficie->makeCurrent();
-    return QOpenGLContext::currentContext() == contexto;
+    if (superficie->HacerActual())
+        return true;
+    superficie->RehacerContexto(); // the driver was reset
+    return listo && superficie->HacerActual();
 }
 
 void EstadoGL::Volcar()
@@ -133,17 +116,12 @@ bool CrearContextoGL(SuperficieGL* superficie)
     EstadoGL& e = Estado();
     if (e.listo)
         return true;
-    if (superficie == nullptr || !superficie->isValid()) {
-        e.ultimoError = PorQueNo(superficie);
+    if (superficie == nullptr || superficie->Contexto() == nullptr) {
+        e.ultimoError =
+            superficie == nullptr ? QStringLiteral("GetDC fallo (hWnd=0)") : superficie->PorQueNo();
         return false;
     }
-    const QSurfaceFormat formato = superficie->context()->format();
-    if (superficie->context()->isOpenGLES() || formato.version() < qMakePair(3, 3)) {
-        e.ultimoError = QStringLiteral("ChoosePixelFormat fallo");
-        return false;
-    }
-    superficie->makeCurrent();
-    if (QOpenGLContext::currentContext() != superficie->context()) {
+    if (!superficie->HacerActual()) {
         e.ultimoError = QStringLiteral("wglMakeCurrent fallo");
         return false;
     }
@@ -158,10 +136,9 @@ void LiberarContextoGL()
 {
     EstadoGL& e = Estado();
     if (e.superficie != nullptr) {
-        if (e.superficie->context() != nullptr)
-            e.superficie->makeCurrent();
+        e.superficie->HacerActual();
         Derribar(e);
-        e.superficie->doneCurrent();
+        e.superficie->SoltarActual();
     }
     e.superficie = nullptr;
     e.suprimida = false;
@@ -180,7 +157,7 @@ QString UltimoErrorGL()
 bool RehacerContexto(SuperficieGL* superficie)
 {
     EstadoGL& e = Estado();
-    if (e.superficie != superficie)
+    if (e.superficie != superficie || !superficie->HacerActual())
         return false;
     if (Construir(e))
         return true;
@@ -193,9 +170,9 @@ void PerderContexto(SuperficieGL* superficie)
     EstadoGL& e = Estado();
     if (e.superficie != superficie)
         return;
-    superficie->makeCurrent();
+    superficie->HacerActual();
     Derribar(e);
-    superficie->doneCurrent();
+    superficie->SoltarActual();
 }
 
 void OlvidarSuperficie(SuperficieGL* superficie)
@@ -258,7 +235,7 @@ void Presentar(bool mostrar)
         return;
     std::swap(e.fondo, e.frente);
     e.hayFrente = true;
-    e.superficie->update();
+    e.superficie->Mostrar();
 }
 
 } // namespace
@@ -283,15 +260,13 @@ bool PresentacionSuprimida()
     return Estado().suprimida;
 }
 
-// The control may have another size than the last frame for a moment, while it is being resized: the frame
-// then stays at the top left and the rest is empty grey.
 void CopiarFrente(SuperficieGL* superficie, unsigned int destino, int ancho, int alto)
 {
     EstadoGL& e = Estado();
-    QOpenGLExtraFunctions* gl = superficie->context()->extraFunctions();
+    QOpenGLExtraFunctions* gl = superficie->Contexto()->extraFunctions();
     const bool mia = e.listo && e.superficie == superficie && e.hayFrente;
+    gl->glBindFramebuffer(GL_DRAW_FRAMEBUFFER, destino);
     if (!mia || e.frente.ancho < ancho || e.frente.alto < alto) {
-        gl->glBindFramebuffer(GL_DRAW_FRAMEBUFFER, destino);
         gl->glClearColor(kGrisVacio, kGrisVacio, kGrisVacio, 1.0F);
         gl->glClear(GL_COLOR_BUFFER_BIT);
     }
@@ -299,11 +274,24 @@ void CopiarFrente(SuperficieGL* superficie, unsigned int destino, int ancho, int
         return;
     const int w = std::min(ancho, e.frente.ancho);
     const int h = std::min(alto, e.frente.alto);
-    gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, e.frente.fbo);
-    gl->glBindFramebuffer(GL_DRAW_FRAMEBUFFER, destino);
-    gl->glBlitFramebuffer(0, e.frente.alto - h, w, e.frente.alto, 0, alto - h, w, alto, GL_COLOR_BUFFER_BIT,
-                          GL_NEAREST);
+    gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, e.frente.fbo); // top row first there, last here
+    gl->glBlitFramebuffer(0, 0, w, h, 0, alto, w, alto - h, GL_COLOR_BUFFER_BIT, GL_NEAREST);
     gl->glBindFramebuffer(GL_FRAMEBUFFER, destino);
+}
+
+void LeerFrente(SuperficieGL* superficie, QImage& imagen)
+{
+    EstadoGL& e = Estado();
+    if (e.superficie != superficie || !e.hayFrente || !e.HacerActual() || !e.hayFrente) {
+        imagen = {};
+        return;
+    }
+    if (imagen.size() != QSize(e.frente.ancho, e.frente.alto))
+        imagen = QImage(e.frente.ancho, e.frente.alto, QImage::Format_RGB32);
+    e.gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, e.frente.fbo);
+    e.gl->glPixelStorei(GL_PACK_ALIGNMENT, 4);
+    e.gl->glReadPixels(0, 0, e.frente.ancho, e.frente.alto, GL_BGRA, kOrdenQImage, imagen.bits());
+    imagen.setDevicePixelRatio(e.frente.escala);
 }
 
 std::int32_t CapturarFrame(int ancho, int alto)
@@ -318,7 +306,7 @@ std::int32_t CapturarFrame(int ancho, int alto)
     const GLuint textura = e.CrearTextura(w, h, nullptr);
     e.gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, e.frente.fbo);
     e.gl->glBindTexture(GL_TEXTURE_2D, textura);
-    e.gl->glCopyTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, 0, e.frente.alto - h, w, h);
+    e.gl->glCopyTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, 0, 0, w, h);
     e.gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, e.fondo.fbo);
     e.sueltas.insert(textura);
     return static_cast<std::int32_t>(textura);
@@ -329,10 +317,9 @@ void DibujarFrameCapturado(std::int32_t id, int ancho, int alto, double alfa)
     EstadoGL& e = Estado();
     if (!e.HacerActual() || !e.lados.contains(static_cast<GLuint>(id)) || !(alfa > 0.0))
         return;
-    // A captured frame has its bottom row first.
     const auto textura = static_cast<GLuint>(id);
     trazo::Estampa(e.lote.Abrir(textura, true, e.Exacta(textura, ancho, alto)), {0.0, 0.0}, ancho, alto, 0.0F,
-                   1.0F, 1.0F, 0.0F, trazo::TintaDe(RGB(255, 255, 255), alfa));
+                   0.0F, 1.0F, 1.0F, trazo::TintaDe(RGB(255, 255, 255), alfa));
 }
 
 void BorrarFrameCapturado(std::int32_t id)
@@ -342,15 +329,9 @@ void BorrarFrameCapturado(std::int32_t id)
 
 QImage LeerFrame()
 {
-    EstadoGL& e = Estado();
-    if (!e.HacerActual() || !e.hayFrente)
-        return {};
-    QImage imagen(e.frente.ancho, e.frente.alto, QImage::Format_RGBX8888);
-    e.gl->glBindFramebuffer(GL_READ_FRAMEBUFFER, e.frente.fbo);
-    e.gl->glPixelStorei(GL_PACK_ALIGNMENT, 1);
-    e.gl->glReadPixels(0, 0, e.frente.ancho, e.frente.alto, GL_RGBA, GL_UNSIGNED_BYTE, imagen.bits());
-    imagen = imagen.mirrored(); // rows from the top
-    imagen.setDevicePixelRatio(e.frente.escala);
+    QImage imagen;
+    if (Estado().superficie != nullptr)
+        LeerFrente(Estado().superficie, imagen);
     return imagen;
 }
 

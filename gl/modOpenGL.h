@@ -31,10 +31,10 @@ namespace modOpenGL {
 
 // ---- Context
 
-// Takes the surface, which must be shown already, and builds what frames need. A second call answers true
-// and changes nothing. On failure false, and UltimoErrorGL tells the step:
-//   "GetDC fallo (hWnd=N)"        no surface, not shown yet, or a platform without OpenGL for widgets
-//   "ChoosePixelFormat fallo"     the context is older than OpenGL 3.3
+// Takes the surface and builds what frames need. A second call answers true and changes nothing. On failure
+// false, and UltimoErrorGL tells the step:
+//   "GetDC fallo (hWnd=N)"        no surface, or one on the road Compuesto that is not shown yet
+//   "ChoosePixelFormat fallo"     the driver is older than OpenGL 3.3
 //   "SetPixelFormat fallo fmt=N"  the frame buffers (format N, a GL enumerant) or the shaders failed
 //   "wglCreateContext fallo"      no context could be created
 //   "wglMakeCurrent fallo"        it was created but does not become current

@@ -29,17 +29,17 @@ protected:
         QSurfaceFormat::setDefaultFormat(formato);
         ventana = std::make_unique<QWidget>();
         ventana->resize(kAncho + 100, kAlto + 100);
-        superficie = new SuperficieGL(ventana.get());
+        superficie = new SuperficieGL(ventana.get(), camino);
         superficie->setGeometry(0, 0, kAncho, kAlto);
         ventana->show();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return superficie->isValid(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return superficie->Contexto() != nullptr; }));
         ASSERT_TRUE(modOpenGL::CrearContextoGL(superficie)) << qPrintable(modOpenGL::UltimoErrorGL());
         EscucharErrores();
     }
 
     void TearDown() override
     {
-        superficie->makeCurrent(); // whose log it is
+        superficie->HacerActual(); // whose log it is
         registro.reset();
         modOpenGL::LiberarContextoGL();
         ventana.reset();
@@ -48,7 +48,7 @@ protected:
     // Listens to the context of the moment; again after it was made anew.
     void EscucharErrores()
     {
-        superficie->makeCurrent();
+        superficie->HacerActual();
         registro = std::make_unique<QOpenGLDebugLogger>();
         ASSERT_TRUE(registro->initialize());
         QObject::connect(registro.get(), &QOpenGLDebugLogger::messageLogged,
@@ -66,6 +66,7 @@ protected:
         return static_cast<int>(imagen.pixel(x, y) & 0xFFFFFFU);
     }
 
+    SuperficieGL::Camino camino = SuperficieGL::Camino::Automatico;
     std::unique_ptr<QWidget> ventana;
     SuperficieGL* superficie = nullptr; // child of the window
     std::unique_ptr<QOpenGLDebugLogger> registro;

@@ -1,5 +1,6 @@
 #include "PerfilHorizonte.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace modAstroEstado {
@@ -7,6 +8,7 @@ namespace modAstroEstado {
 namespace {
 
 PerfilHorizonte perfil;
+double limiteBajo = 0, limiteAlto = 0; // of a valid skyline
 
 } // namespace
 
@@ -18,6 +20,9 @@ const PerfilHorizonte& PerfilEnMemoria()
 void EstablecerPerfil(const std::array<double, kMuestrasHorizonte>& altitudes, double lat, double lon)
 {
     perfil = {altitudes, true, lat, lon};
+    const auto [bajo, alto] = std::minmax_element(altitudes.begin(), altitudes.end());
+    limiteBajo = *bajo;
+    limiteAlto = *alto;
 }
 
 void BorrarPerfil()
@@ -36,6 +41,12 @@ double HorizonteEnAzimut(double azimut)
     const int i = static_cast<int>(suelo) % kMuestrasHorizonte; // a tiny negative azimuth rounds up to 360
     const int j = (i + 1) % kMuestrasHorizonte;
     return perfil.altitudes[i] + (perfil.altitudes[j] - perfil.altitudes[i]) * (p - suelo);
+}
+
+void LimitesHorizonte(double& minimo, double& maximo)
+{
+    minimo = perfil.valido ? limiteBajo : 0.0;
+    maximo = perfil.valido ? limiteAlto : 0.0;
 }
 
 bool HorizonteValidoPara(double lat, double lon)

@@ -33,6 +33,9 @@ void BorrarPerfil();
 // 0 while no skyline is valid.
 double HorizonteEnAzimut(double azimut);
 
+// The lowest and the highest altitude of the skyline, degrees; both 0 while no skyline is valid.
+void LimitesHorizonte(double& minimo, double& maximo);
+
 // True when the skyline in memory is valid and its place is strictly less than 0.0001 degree away in
 // latitude and in longitude.
 bool HorizonteValidoPara(double lat, double lon);

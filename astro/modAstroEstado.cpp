@@ -1,5 +1,6 @@
 #include "modAstroEstado.h"
 
+#include "Efemerides.h"
 #include "modAstro.h"
 
 #include <cmath>
@@ -44,10 +45,13 @@ void CalcularCurvasDia(std::int16_t anio, std::int16_t mes, std::int16_t dia, do
                        double zona)
 {
     const double jd0 = modAstro::DiaJuliano(anio, mes, dia, 0) - zona / 24;
+    const modAstro::Observador obs(lat, lon);
+    const modAstro::TramoCuerpo tramoSol(false, jd0);
+    const modAstro::TramoCuerpo tramoLuna(true, jd0);
     for (int i = 0; i < kMuestrasDia; ++i) {
         const double jd = jd0 + static_cast<double>(i) / kMuestrasDia;
-        modAstro::AzAltCuerpo(jd, lat, lon, false, sol.altitud[i], sol.azimut[i]);
-        modAstro::AzAltCuerpo(jd, lat, lon, true, luna.altitud[i], luna.azimut[i]);
+        tramoSol.AzAlt(jd, obs, sol.altitud[i], sol.azimut[i]);
+        tramoLuna.AzAlt(jd, obs, luna.altitud[i], luna.azimut[i]);
     }
     clave = {true, anio, mes, dia, lat, lon, zona};
 }

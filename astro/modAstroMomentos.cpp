@@ -1,9 +1,13 @@
 // Horizontal places, crossings and the record of one day.
 #include "modAstro.h"
 
+#include "BarridoDia.h"
+#include "Efemerides.h"
 #include "PerfilHorizonte.h"
 
+#include <array>
 #include <cmath>
+#include <span>
 
 namespace modAstro {
 
@@ -21,79 +25,32 @@ void EcuatorialAHorizontal(double alfa, double delta, double tsg, double lat, do
 
 void AzAltCuerpo(double jd, double lat, double lon, bool luna, double& altitud, double& azimut)
 {
-    double alfa, delta, distancia, tsg;
-    PosicionSol(jd, alfa, delta, distancia, tsg);
-    if (luna) {
-        double semidiametro;
-        PosicionLunaTopocentrica(jd, lat, lon, tsg, alfa, delta, semidiametro);
-    }
-    EcuatorialAHorizontal(alfa, delta, tsg, lat, lon, azimut, altitud);
+    VectorAAltAz(luna ? HorizonteLuna(jd, Observador(lat, lon)) : HorizonteSol(jd, Ejes(lat, lon)), altitud,
+                 azimut);
 }
 
 double RefinarCruce(double jd0, double bajo, double alto, double objetivo, double lat, double lon, bool luna,
                     bool horizonte)
 {
-    const auto sobra = [&](double x) {
+    return Bisecar(bajo, alto, [&](double x) {
         double altitud, azimut;
         AzAltCuerpo(jd0 + x, lat, lon, luna, altitud, azimut);
-        const double umbral = horizonte ? modAstroEstado::HorizonteEnAzimut(azimut) : 0.0;
-        return altitud - objetivo - umbral;
-    };
-    double fBajo = sobra(bajo);
-    for (int i = 0; i < 20; ++i) {
-        const double medio = (bajo + alto) / 2;
-        const double fMedio = sobra(medio);
-        if (fBajo * fMedio <= 0) {
-            alto = medio;
-        } else {
-            bajo = medio;
-            fBajo = fMedio;
-        }
-    }
-    return (bajo + alto) / 2;
+        return altitud - objetivo - (horizonte ? modAstroEstado::HorizonteEnAzimut(azimut) : 0.0);
+    });
 }
 
 void BuscarCruceAltitud(double jd0, double lat, double lon, double objetivo, bool luna, bool horizonte,
                         double& orto, double& maximo, double& ocaso)
 {
-    constexpr double kPaso = 1.0 / 720;
-    orto = maximo = ocaso = -1;
-    double mejor = -999, tMejor = -1;
-    double altitud, azimut;
-    const auto umbral = [&] {
-        return horizonte ? objetivo + modAstroEstado::HorizonteEnAzimut(azimut) : objetivo;
-    };
-    AzAltCuerpo(jd0, lat, lon, luna, altitud, azimut);
-    double altitudPrevia = altitud, umbralPrevio = umbral();
-    for (double t = kPaso; t <= 1.0; t += kPaso) {
-        AzAltCuerpo(jd0 + t, lat, lon, luna, altitud, azimut);
-        const double umbralAhora = umbral();
-        const bool antes = altitudPrevia >= umbralPrevio, ahora = altitud >= umbralAhora;
-        if (orto < 0 && !antes && ahora)
-            orto = RefinarCruce(jd0, t - kPaso, t, objetivo, lat, lon, luna, horizonte);
-        if (ocaso < 0 && antes && !ahora)
-            ocaso = RefinarCruce(jd0, t - kPaso, t, objetivo, lat, lon, luna, horizonte);
-        if (altitud > mejor) {
-            mejor = altitud;
-            tMejor = t;
-        }
-        altitudPrevia = altitud;
-        umbralPrevio = umbralAhora;
-    }
-    const double muestreada = mejor;
-    if (tMejor > 0) {
-        double bajo = std::fmax(0.0, tMejor - kPaso), alto = std::fmin(1.0, tMejor + kPaso);
-        for (int i = 0; i < 32; ++i) {
-            const double m1 = bajo + (alto - bajo) / 3, m2 = alto - (alto - bajo) / 3;
-            double a1, a2;
-            AzAltCuerpo(jd0 + m1, lat, lon, luna, a1, azimut);
-            AzAltCuerpo(jd0 + m2, lat, lon, luna, a2, azimut);
-            (a1 < a2 ? bajo : alto) = a1 < a2 ? m1 : m2;
-        }
-        tMejor = (bajo + alto) / 2;
-    }
-    if (muestreada > objetivo)
-        maximo = tMejor;
+    const BarridoDia dia(luna, jd0, lat, lon);
+    CruceDia cruce{objetivo};
+    if (horizonte)
+        dia.CrucesHorizonte(cruce);
+    else
+        dia.Cruces({&cruce, 1});
+    orto = cruce.orto;
+    maximo = dia.Maximo(objetivo);
+    ocaso = cruce.ocaso;
 }
 
 MomentosDia CalcularMomentosDia(std::int16_t anio, std::int16_t mes, std::int16_t dia, double hora,
@@ -101,36 +58,62 @@ MomentosDia CalcularMomentosDia(std::int16_t anio, std::int16_t mes, std::int16_
 {
     MomentosDia r;
     const double j = DiaJuliano(anio, mes, dia, 0);
-    const double instante = j + (hora - zona) / 24;
     const double j0 = j - zona / 24;
-    AzAltCuerpo(instante, lat, lon, false, r.SolAlt, r.SolAz);
-    AzAltCuerpo(instante, lat, lon, true, r.LunaAlt, r.LunaAz);
-    double nada;
-    BuscarCruceAltitud(j0, lat, lon, kAltitudOrto, false, horizonte, r.SolOrto, r.SolTransito, r.SolOcaso);
-    BuscarCruceAltitud(j0, lat, lon, -6, false, false, r.CivilAlba, nada, r.CivilOcaso);
-    BuscarCruceAltitud(j0, lat, lon, -12, false, false, r.NauticoAlba, nada, r.NauticoOcaso);
-    BuscarCruceAltitud(j0, lat, lon, -18, false, false, r.AstroAlba, nada, r.AstroOcaso);
-    BuscarCruceAltitud(j0, lat, lon, 6, false, false, r.DoradaAM, nada, r.DoradaPM);
-    BuscarCruceAltitud(j0, lat, lon, -4, false, false, r.AzulAM, nada, r.AzulPM);
-    BuscarCruceAltitud(j0, lat, lon, kAltitudOrto, true, horizonte, r.LunaOrto, r.LunaTransito, r.LunaOcaso);
-    FaseLunar(instante, r.LunaFase, r.LunaIlum, r.LunaDist);
-    const auto azimut = [&](double momento, bool luna, double& az) {
-        double altitud;
-        if (momento >= 0)
-            AzAltCuerpo(j0 + momento, lat, lon, luna, altitud, az);
+
+    // The instant asked for.
+    const double instante = j + (hora - zona) / 24;
+    const Observador obs(lat, lon);
+    const double tsg = TiempoSidereo(instante);
+    const Vector3 vectorSol = VectorSol(instante);
+    const Vector3 vectorLuna = VectorLuna(instante);
+    VectorAAltAz(GirarAlHorizonte(vectorSol, false, tsg, obs), r.SolAlt, r.SolAz);
+    VectorAAltAz(GirarAlHorizonte(vectorLuna, true, tsg, obs), r.LunaAlt, r.LunaAz);
+    FaseDeVectores(vectorSol, vectorLuna, r.LunaFase, r.LunaIlum);
+    r.LunaDist = Longitud(vectorLuna);
+
+    // The day. The skyline moves rise and set alone; twilights belong to the level horizon.
+    const BarridoDia sol(false, j0, lat, lon);
+    const BarridoDia luna(true, j0, lat, lon);
+    std::array<CruceDia, 6> cruces{{{kAltitudOrto}, {-6}, {-12}, {-18}, {6}, {-4}}};
+    CruceDia cruceLuna{kAltitudOrto};
+    if (horizonte) {
+        sol.CrucesHorizonte(cruces[0]);
+        sol.Cruces(std::span(cruces).subspan(1));
+        luna.CrucesHorizonte(cruceLuna);
+    } else {
+        sol.Cruces(cruces);
+        luna.Cruces({&cruceLuna, 1});
+    }
+    const double maximoSol = sol.Maximo(kAltitudOrto);
+    const double maximoLuna = luna.Maximo(kAltitudOrto);
+
+    double altitud;
+    if (cruces[0].orto >= 0)
+        sol.AzAlt(cruces[0].orto, altitud, r.SolAzOrto);
+    if (cruces[0].ocaso >= 0)
+        sol.AzAlt(cruces[0].ocaso, altitud, r.SolAzOcaso);
+    if (cruceLuna.orto >= 0)
+        luna.AzAlt(cruceLuna.orto, altitud, r.LunaAzOrto);
+    if (cruceLuna.ocaso >= 0)
+        luna.AzAlt(cruceLuna.ocaso, altitud, r.LunaAzOcaso);
+    if (maximoSol >= 0)
+        sol.AzAlt(maximoSol, r.SolAltTransito, r.SolAzTransito);
+    if (maximoLuna >= 0)
+        luna.AzAlt(maximoLuna, r.LunaAltTransito, r.LunaAzTransito);
+
+    const auto guardar = [zona](const CruceDia& c, double& orto, double& ocaso) {
+        orto = AjustarFraccion(c.orto, zona);
+        ocaso = AjustarFraccion(c.ocaso, zona);
     };
-    azimut(r.SolOrto, false, r.SolAzOrto);
-    azimut(r.SolOcaso, false, r.SolAzOcaso);
-    azimut(r.LunaOrto, true, r.LunaAzOrto);
-    azimut(r.LunaOcaso, true, r.LunaAzOcaso);
-    if (r.SolTransito >= 0)
-        AzAltCuerpo(j0 + r.SolTransito, lat, lon, false, r.SolAltTransito, r.SolAzTransito);
-    if (r.LunaTransito >= 0)
-        AzAltCuerpo(j0 + r.LunaTransito, lat, lon, true, r.LunaAltTransito, r.LunaAzTransito);
-    for (double* m : {&r.SolOrto, &r.SolTransito, &r.SolOcaso, &r.CivilAlba, &r.CivilOcaso, &r.NauticoAlba,
-                      &r.NauticoOcaso, &r.AstroAlba, &r.AstroOcaso, &r.DoradaAM, &r.DoradaPM, &r.AzulAM,
-                      &r.AzulPM, &r.LunaOrto, &r.LunaTransito, &r.LunaOcaso})
-        *m = AjustarFraccion(*m, zona);
+    guardar(cruces[0], r.SolOrto, r.SolOcaso);
+    guardar(cruces[1], r.CivilAlba, r.CivilOcaso);
+    guardar(cruces[2], r.NauticoAlba, r.NauticoOcaso);
+    guardar(cruces[3], r.AstroAlba, r.AstroOcaso);
+    guardar(cruces[4], r.DoradaAM, r.DoradaPM);
+    guardar(cruces[5], r.AzulAM, r.AzulPM);
+    guardar(cruceLuna, r.LunaOrto, r.LunaOcaso);
+    r.SolTransito = AjustarFraccion(maximoSol, zona);
+    r.LunaTransito = AjustarFraccion(maximoLuna, zona);
     return r;
 }
 

@@ -19,7 +19,7 @@ void Escribir(QPainter& p, const QRectF& r, int alineacion, const QString& texto
 
 void EscribirConHalo(QPainter& p, const QRectF& r, int alineacion, const QString& texto, const QColor& color)
 {
-    constexpr QColor kHalo{12, 16, 28, 130};
+    constexpr QColor kHalo{12, 16, 28, 165};
     constexpr QPointF kLados[] = {{-1, 0}, {1, 0}, {0, -1}, {0, 1}};
     for (const QPointF& d : kLados)
         Escribir(p, r.translated(d), alineacion, texto, kHalo);

@@ -131,6 +131,23 @@ TablaTarjetas Colocar(const std::vector<TarjetaEvento>& cartas, double ancho)
 
 } // namespace tarjetas
 
+std::optional<double> TablaTarjetas::HoraVecina(double hora, bool adelante) const
+{
+    constexpr double kMedioMinuto = 0.5 / 60.0; // the hour bar stands on whole minutes
+    if (celdas.empty())
+        return std::nullopt;
+    if (adelante) {
+        for (const Celda& c : celdas)
+            if (c.hora >= hora + kMedioMinuto)
+                return c.hora;
+        return celdas.front().hora;
+    }
+    for (auto c = celdas.rbegin(); c != celdas.rend(); ++c)
+        if (c->hora <= hora - kMedioMinuto)
+            return c->hora;
+    return celdas.back().hora;
+}
+
 std::optional<double> TablaTarjetas::HoraEn(double x, double y) const
 {
     if (y < 0.0 || y > tarjetas::kAlto)

@@ -44,6 +44,7 @@ pantalla() {
     chmod 700 "$dir"
     openbox >/dev/null 2>&1 &
     gestor=$!
+    until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done # the window manager is there
     "$@" || rc=$?
     kill "$gestor" "$servidor" 2>/dev/null || true
     wait "$gestor" "$servidor" 2>/dev/null || true

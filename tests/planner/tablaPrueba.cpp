@@ -46,7 +46,10 @@ constexpr const char* kTabla = "main.dyn.hora_local=hora %1\n"
                                "main.moon.phase.llena=llena\n"
                                "main.moon.phase.gibosa_menguante=gibosa menguante\n"
                                "main.moon.phase.cuarto_menguante=cuarto menguante\n"
-                               "main.moon.phase.menguante_vieja=menguante vieja\n";
+                               "main.moon.phase.menguante_vieja=menguante vieja\n"
+                               "descarga.aviso_0=bajando\n"
+                               "descarga.aviso_1=una\n"
+                               "descarga.aviso_n=quedan %1\n";
 
 } // namespace
 

@@ -112,6 +112,14 @@ ServidorTeselas::ServidorTeselas(Almacen almacen_, QObject* padre)
     });
 }
 
+ServidorTeselas::~ServidorTeselas()
+{
+    for (QTcpSocket* enchufe : findChildren<QTcpSocket*>()) {
+        enchufe->disconnect(this);
+        delete enchufe;
+    }
+}
+
 ServidorTeselas::Almacen ServidorTeselas::DeCarpeta(const QString& carpeta)
 {
     return [carpeta](const Tesela& t) -> QByteArray {

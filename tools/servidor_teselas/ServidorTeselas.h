@@ -57,6 +57,7 @@ public:
     using Almacen = std::function<QByteArray(const Tesela&)>;
 
     explicit ServidorTeselas(Almacen almacen, QObject* padre = nullptr);
+    ~ServidorTeselas() override; // open connections end without a word
 
     // Tiles of <carpeta>/<key>/z/x/y.png, or <carpeta>/z/x/y.png where that is missing.
     static Almacen DeCarpeta(const QString& carpeta);

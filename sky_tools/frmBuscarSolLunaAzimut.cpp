@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <string>
 
 using modI18n::Traducir;
 using modI18n::TraducirCon;
@@ -55,7 +56,7 @@ QWidget* frmBuscarSolLunaAzimut::ConstruirPeticion()
         rejilla->addWidget(rotulo, n, 0);
         rejilla->addWidget(campo, n, 1);
         if (ayuda != nullptr) {
-            rejilla->addWidget(CrearRotulo("", ayuda, "leyenda"), n, 2);
+            rejilla->addWidget(CrearRotulo((std::string(nombre) + "Ayuda").c_str(), ayuda, "leyenda"), n, 2);
         }
     };
     cmbCuerpo = Crear<QComboBox>("cmbCuerpo");

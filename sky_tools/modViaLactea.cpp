@@ -26,7 +26,8 @@ constexpr std::int16_t kNivelLista = 2;
 constexpr int kMuestras = 21;
 constexpr double kMediaHora = 0.5 / 24.0;
 
-// Offsets of the samples from local midnight, days: a running sum, as they are told.
+// Offsets of the samples from local midnight, days: a running sum, which the printed moment follows to its
+// last bit.
 const std::array<double, kMuestras>& Desfases()
 {
     static const std::array<double, kMuestras> desfases = [] {

@@ -64,6 +64,7 @@ void LineaEvento(LienzoMapa& lienzo, const EscenaMapa& e, double az, std::int32_
 // --- Paths
 
 constexpr double kRadioCielo = 180.0; // pixels
+constexpr std::int32_t kBorde = RGB(66, 70, 86);
 constexpr int kMuestrasHora = 6;
 constexpr int kPrimerRotulo = 36;  // 06:00
 constexpr int kUltimoRotulo = 108; // 18:00
@@ -85,12 +86,18 @@ void Camino(LienzoMapa& lienzo, QPoint o, const Trazo& t)
         const double radio = kRadioCielo * std::cos(alt[i] * modAstro::kGradosARad);
         p[i] = {o.x() + radio * std::sin(az), o.y() - radio * std::cos(az)};
     }
+    // A dark edge under what is bright, or it would drown on a pale map.
+    for (std::size_t i = 1; i < p.size(); ++i)
+        if (visible(i - 1) && visible(i))
+            lienzo.Linea(p[i - 1].x, p[i - 1].y, p[i].x, p[i].y, kBorde, 3.0);
     for (std::size_t i = 1; i < p.size(); ++i) {
         const bool alto = visible(i - 1) && visible(i);
         lienzo.Linea(p[i - 1].x, p[i - 1].y, p[i].x, p[i].y, alto ? t.color : t.apagado, alto ? 1.5 : 1.0);
     }
     for (std::size_t i = 0; i < p.size(); i += kMuestrasHora) {
         const double radio = visible(i) ? 7.0 * std::sin(alt[i] * modAstro::kGradosARad) + 2.5 : 2.0;
+        if (visible(i))
+            lienzo.DiscoAlfa(p[i].x, p[i].y, radio + 0.75, kBorde, 1.0, 20);
         lienzo.DiscoAlfa(p[i].x, p[i].y, radio, visible(i) ? t.color : t.apagado, 1.0, 20);
     }
     for (std::size_t i = kPrimerRotulo; i <= kUltimoRotulo; i += kMuestrasHora)

@@ -165,6 +165,7 @@ private:
     MomentosActuales actuales;
     ZonaPlanificador zonaPlan;
     DatosTimeline datosTimeline;
+    CacheTimeline cacheTimeline;
     TablaTarjetas tarjetas; // hit table of the cards last painted
     FranjaScrub franja;
     double faseLuna = -1; // of the disc shown; negative while there is none

@@ -13,7 +13,7 @@ void frmMain::ConectarTimeline()
 {
     picTimeline->AlPintar([this](QPainter& p, const QRectF& r) {
         if (datosTimeline.lista)
-            tarjetas = lineaTiempo::PintarTimeline(p, r.width(), r.height(), datosTimeline);
+            tarjetas = cacheTimeline.Pintar(p, r.width(), r.height(), datosTimeline);
         else
             p.fillRect(r, lineaTiempo::kFondo);
         if (focoVisible && picTimeline->hasFocus()) {

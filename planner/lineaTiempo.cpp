@@ -11,6 +11,7 @@
 
 #include <QFontMetricsF>
 #include <QImage>
+#include <QPaintDevice>
 #include <QPainter>
 #include <QTransform>
 
@@ -205,31 +206,91 @@ double AltitudEn(const Altitudes& alt, double x, double ancho)
     return alt[primera] + (alt[segunda] - alt[primera]) * (i - entera);
 }
 
-TablaTarjetas PintarTimeline(QPainter& p, double ancho, double alto, const DatosTimeline& datos)
+namespace {
+
+bool HayGrafico(double ancho, double alto)
 {
-    if (ancho < 2.0 || alto < 1.0)
-        return {};
+    return ancho >= 2.0 && alto - kPie - kArriba >= kMinimo;
+}
+
+} // namespace
+
+void PintarGrafico(QPainter& p, double ancho, double alto, const DatosTimeline& datos)
+{
     p.save();
     p.setRenderHint(QPainter::Antialiasing, false);
     p.fillRect(QRectF(0.0, 0.0, ancho, alto), kFondo);
-    TablaTarjetas tabla = tarjetas::Colocar(datos.tarjetas, ancho);
-    pintorTarjetas::Pintar(p, datos.tarjetas, tabla);
+    if (HayGrafico(ancho, alto)) {
+        if (datos.curvas)
+            PintarCielo(p, ancho, alto, datos.altSol);
+        PintarRejilla(p, ancho, alto);
+        PintarHorizonte(p, ancho, alto);
+        if (datos.curvas)
+            PintarCurvas(p, ancho, alto, datos);
+        PintarHoras(p, ancho, alto);
+    }
     p.restore();
-    if (alto - kPie - kArriba < kMinimo)
-        return tabla;
+}
 
+TablaTarjetas PintarTarjetas(QPainter& p, double ancho, const DatosTimeline& datos)
+{
     p.save();
     p.setRenderHint(QPainter::Antialiasing, false);
-    if (datos.curvas)
-        PintarCielo(p, ancho, alto, datos.altSol);
-    PintarRejilla(p, ancho, alto);
-    PintarHorizonte(p, ancho, alto);
-    if (datos.curvas)
-        PintarCurvas(p, ancho, alto, datos);
-    PintarHoras(p, ancho, alto);
-    PintarHoraActual(p, ancho, alto, datos);
+    TablaTarjetas tabla = tarjetas::Colocar(datos.tarjetas, ancho);
+    pintorTarjetas::Pintar(p, datos.tarjetas, tabla);
     p.restore();
     return tabla;
 }
 
+void PintarAhora(QPainter& p, double ancho, double alto, const DatosTimeline& datos)
+{
+    if (!HayGrafico(ancho, alto))
+        return;
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, false);
+    PintarHoraActual(p, ancho, alto, datos);
+    p.restore();
+}
+
+bool HaySitio(double ancho, double alto)
+{
+    return ancho >= 2.0 && alto >= 1.0;
+}
+
+TablaTarjetas PintarTimeline(QPainter& p, double ancho, double alto, const DatosTimeline& datos)
+{
+    if (!HaySitio(ancho, alto))
+        return {};
+    PintarGrafico(p, ancho, alto, datos);
+    TablaTarjetas tabla = PintarTarjetas(p, ancho, datos);
+    PintarAhora(p, ancho, alto, datos);
+    return tabla;
+}
+
 } // namespace lineaTiempo
+
+TablaTarjetas CacheTimeline::Pintar(QPainter& p, double ancho, double alto, const DatosTimeline& datos)
+{
+    if (!lineaTiempo::HaySitio(ancho, alto))
+        return {};
+    const double escala = p.device()->devicePixelRatioF();
+    const QSize tamano = (QSizeF(ancho, alto) * escala).toSize();
+    const bool vale = grafico.size() == tamano && curvas == datos.curvas && colorSol == datos.colorSol &&
+                      colorLuna == datos.colorLuna && altSol == datos.altSol && altLuna == datos.altLuna;
+    if (!vale) {
+        grafico = QPixmap(tamano);
+        grafico.setDevicePixelRatio(escala);
+        QPainter pintor(&grafico);
+        pintor.setFont(p.font());
+        lineaTiempo::PintarGrafico(pintor, ancho, alto, datos);
+        curvas = datos.curvas;
+        colorSol = datos.colorSol;
+        colorLuna = datos.colorLuna;
+        altSol = datos.altSol;
+        altLuna = datos.altLuna;
+    }
+    p.drawPixmap(QPointF(0, 0), grafico);
+    TablaTarjetas tabla = lineaTiempo::PintarTarjetas(p, ancho, datos);
+    lineaTiempo::PintarAhora(p, ancho, alto, datos);
+    return tabla;
+}

@@ -10,6 +10,7 @@
 #include "tarjetas.h"
 
 #include <QColor>
+#include <QPixmap>
 
 #include <array>
 #include <vector>
@@ -52,4 +53,26 @@ double AltitudEn(const std::array<double, modAstroEstado::kMuestrasDia>& alt, do
 // narrower than 2 pixels is skipped; one too low for the curves (153 pixels or less) shows only the cards.
 TablaTarjetas PintarTimeline(QPainter& p, double ancho, double alto, const DatosTimeline& datos);
 
+// False for a picture that is skipped.
+bool HaySitio(double ancho, double alto);
+
+// Its three layers, bottom first: the ground with the day's graph, the cards, the present hour.
+void PintarGrafico(QPainter& p, double ancho, double alto, const DatosTimeline& datos);
+TablaTarjetas PintarTarjetas(QPainter& p, double ancho, const DatosTimeline& datos);
+void PintarAhora(QPainter& p, double ancho, double alto, const DatosTimeline& datos);
+
 } // namespace lineaTiempo
+
+// PintarTimeline for a picture that is repainted while the hour moves: the graph, which the hour does not
+// change, is kept as a pixmap until size, curves or colours change.
+class CacheTimeline
+{
+public:
+    TablaTarjetas Pintar(QPainter& p, double ancho, double alto, const DatosTimeline& datos);
+
+private:
+    QPixmap grafico;
+    bool curvas = false;
+    QColor colorSol, colorLuna;
+    std::array<double, modAstroEstado::kMuestrasDia> altSol{}, altLuna{};
+};

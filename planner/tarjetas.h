@@ -58,8 +58,8 @@ struct TablaTarjetas
     // Hour of the card under a pixel; nothing between two cards or under the band.
     std::optional<double> HoraEn(double x, double y) const;
 
-    // Hour of the next card behind an hour (or before it), half a minute away at least; beyond the last card the
-    // first follows. Nothing without cards.
+    // Hour of the next card behind an hour (or before it), half a minute away at least; beyond the last card
+    // the first follows. Nothing without cards.
     std::optional<double> HoraVecina(double hora, bool adelante) const;
 };
 

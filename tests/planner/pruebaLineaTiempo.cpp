@@ -360,6 +360,32 @@ TEST(lineaTiempo, UnCuadroSinAnchoNoSePinta)
     EXPECT_EQ(tabla.celdas.size(), 2U);
 }
 
+// What is kept between repaints never shows: each picture equals the one painted afresh.
+TEST(lineaTiempo, LaCacheDaElMismoCuadro)
+{
+    CacheTimeline cache;
+    const auto conCache = [&cache](const DatosTimeline& d, double ancho, double escala) {
+        QImage imagen(QSizeF(ancho * escala, kAlto * escala).toSize(), QImage::Format_RGB32);
+        imagen.setDevicePixelRatio(escala);
+        imagen.fill(qRgb(9, 9, 9));
+        QPainter p(&imagen);
+        cache.Pintar(p, ancho, kAlto, d);
+        return imagen;
+    };
+    DatosTimeline d = Dia();
+    EXPECT_EQ(conCache(d, kAncho, 1.0), Pintar(d));
+    d.hora = 17.5;
+    EXPECT_EQ(conCache(d, kAncho, 1.0), Pintar(d)) << "the hour alone moves";
+    d.altSol[70] = -80.0;
+    EXPECT_EQ(conCache(d, kAncho, 1.0), Pintar(d)) << "another day";
+    d.colorLuna = QColor(1, 200, 2);
+    EXPECT_EQ(conCache(d, kAncho, 1.0), Pintar(d)) << "another colour";
+    EXPECT_EQ(conCache(d, 700, 1.0), Pintar(d, 700)) << "another size";
+    EXPECT_EQ(conCache(d, 700, 2.0), Pintar(d, 700, kAlto, 2.0)) << "another scale";
+    d.curvas = false;
+    EXPECT_EQ(conCache(d, 700, 2.0), Pintar(d, 700, kAlto, 2.0)) << "no curves";
+}
+
 TEST(lineaTiempo, EscalasIntermedias)
 {
     auto d = Dia();

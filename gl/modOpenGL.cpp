@@ -78,6 +78,7 @@ void Derribar(EstadoGL& e)
     SoltarBuffer(e, e.fondo);
     SoltarBuffer(e, e.frente);
     e.hayFrente = false;
+    e.ancho = 0.0;
     e.gl = nullptr;
 }
 
@@ -188,11 +189,12 @@ void PrepararViewport(int ancho, int alto)
     EstadoGL& e = Estado();
     if (!e.listo || ancho <= 0 || alto <= 0)
         return;
+    e.lote.Vaciar();
+    e.ancho = 0.0; // until the frame is ready nothing draws
     if (!e.HacerActual()) {
         e.ultimoError = QStringLiteral("wglMakeCurrent fallo en PrepararViewport");
         return;
     }
-    e.lote.Vaciar();
     const double escala = e.superficie->devicePixelRatioF();
     if (escala != e.atlas.Escala())
         e.atlas.Vaciar(escala);

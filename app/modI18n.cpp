@@ -80,7 +80,7 @@ QString Traducir(QAnyStringView clave)
     return QLatin1Char('[') + c + QLatin1Char(']');
 }
 
-QString TraducirCon(QAnyStringView clave, std::initializer_list<QString> parametros)
+QString TraducirCon(QAnyStringView clave, const QStringList& parametros)
 {
     QString texto = Traducir(clave);
     int i = 0;

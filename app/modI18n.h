@@ -11,8 +11,8 @@
 #include <QByteArrayView>
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
-#include <initializer_list>
 #include <optional>
 
 namespace modI18n {
@@ -31,12 +31,12 @@ QString Traducir(QAnyStringView clave);
 
 // The text with its placeholders filled: parameter i, counted from 1, replaces every "%i", in ascending
 // order.
-QString TraducirCon(QAnyStringView clave, std::initializer_list<QString> parametros);
+QString TraducirCon(QAnyStringView clave, const QStringList& parametros);
 
 // The same, as one writes it: TraducirCon("main.dyn.cursor", lat, lon).
 template <typename... Parametros> QString TraducirCon(QAnyStringView clave, const Parametros&... parametros)
 {
-    return TraducirCon(clave, {QString(parametros)...});
+    return TraducirCon(clave, QStringList{QString(parametros)...});
 }
 
 // The rules of a table's text, without files: never fails, skips damaged lines.

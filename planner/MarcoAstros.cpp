@@ -3,14 +3,11 @@
 #include "modI18n.h"
 
 #include <QHash>
-#include <QScrollBar>
 
 using modI18n::Traducir;
 
 namespace {
 
-constexpr int kMargen = 12;
-constexpr int kEntreSecciones = 14;
 constexpr int kLadoLuna = 112; // the Moon's picture, logical pixels
 
 // A day whose numbers are as wide as they come, and a phase of each name.
@@ -38,20 +35,9 @@ void Anadir(Seccion* seccion, std::initializer_list<std::pair<EtiquetaDato**, co
 
 } // namespace
 
-MarcoAstros::MarcoAstros(QWidget* padre) : QScrollArea(padre)
+MarcoAstros::MarcoAstros(QWidget* padre) : MarcoLateral("Frame2", padre)
 {
-    setObjectName(QStringLiteral("Frame2"));
-    setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
-    contenido = new QWidget(this);
-    contenido->setObjectName(QStringLiteral("marcoContenido"));
-    auto* columna = new QVBoxLayout(contenido);
-    columna->setContentsMargins(kMargen, kMargen, kMargen, kMargen);
-    columna->setSpacing(kEntreSecciones);
-
-    secSol = new Seccion("secSol", contenido);
+    secSol = NuevaSeccion("secSol");
     Anadir(secSol, {{&lblSunRise, "lblSunRise"},
                     {&lblSunTransit, "lblSunTransit"},
                     {&lblSunSet, "lblSunSet"},
@@ -63,7 +49,7 @@ MarcoAstros::MarcoAstros(QWidget* padre) : QScrollArea(padre)
                     {&lblNaut, "lblNaut"},
                     {&lblAstro, "lblAstro"}});
 
-    secLuna = new Seccion("secLuna", contenido);
+    secLuna = NuevaSeccion("secLuna");
     picLuna = new Lienzo(contenido);
     picLuna->setObjectName(QStringLiteral("picLuna"));
     picLuna->setFixedSize(kLadoLuna, kLadoLuna);
@@ -77,10 +63,7 @@ MarcoAstros::MarcoAstros(QWidget* padre) : QScrollArea(padre)
                      {&lblMoonAlt, "lblMoonAlt"},
                      {&lblMoonDist, "lblMoonDist"}});
 
-    columna->addWidget(secSol);
-    columna->addWidget(secLuna);
-    columna->addStretch(1);
-    setWidget(contenido);
+    Cerrar();
 }
 
 void MarcoAstros::Retraducir()
@@ -124,9 +107,4 @@ void MarcoAstros::MedirLineas()
     }
     for (auto i = modelos.cbegin(); i != modelos.cend(); ++i)
         i.key()->PonerModelo(i.value());
-}
-
-int MarcoAstros::AnchoNecesario() const
-{
-    return AnchoDeColumna(*contenido) + verticalScrollBar()->sizeHint().width();
 }

@@ -4,17 +4,15 @@
 #pragma once
 
 #include "EtiquetaDato.h"
-#include "Seccion.h"
+#include "MarcoLateral.h"
 #include "textosPanel.h"
 
 #include "Lienzo.h"
 
-#include <QScrollArea>
-
 #include <utility>
 #include <vector>
 
-class MarcoAstros : public QScrollArea
+class MarcoAstros : public MarcoLateral
 {
     Q_OBJECT
 
@@ -23,9 +21,6 @@ public:
 
     void Retraducir();
     void Mostrar(const textosPanel::TextosAstros& t);
-    // Width that the widest day needs in the present language, logical pixels; it does not change with
-    // the day that is shown.
-    int AnchoNecesario() const;
 
     EtiquetaDato* lblSunRise = nullptr;
     EtiquetaDato* lblSunTransit = nullptr;
@@ -54,7 +49,6 @@ private:
 
     void MedirLineas();
 
-    QWidget* contenido = nullptr;
     Seccion* secSol = nullptr;
     Seccion* secLuna = nullptr;
 };

@@ -5,16 +5,13 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QScrollBar>
 
 using modI18n::Traducir;
 using modI18n::TraducirCon;
 
 namespace {
 
-constexpr int kMargen = 12; // around the frame's content, logical pixels
-constexpr int kEntreSecciones = 14;
-constexpr int kEntreControles = 6;
+constexpr int kEntreControles = 6; // logical pixels
 
 QHBoxLayout* Fila()
 {
@@ -55,31 +52,13 @@ void Rotular(QWidget* control, const char* clave)
 
 } // namespace
 
-MarcoPlan::MarcoPlan(QWidget* padre) : QScrollArea(padre)
+MarcoPlan::MarcoPlan(QWidget* padre) : MarcoLateral("Frame1", padre)
 {
-    setObjectName(QStringLiteral("Frame1"));
-    setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
-    contenido = new QWidget(this);
-    contenido->setObjectName(QStringLiteral("marcoContenido"));
-    columna = new QVBoxLayout(contenido);
-    columna->setContentsMargins(kMargen, kMargen, kMargen, kMargen);
-    columna->setSpacing(kEntreSecciones);
     ConstruirLugar();
     ConstruirFecha();
     ConstruirAnimacion();
     ConstruirMapa();
-    columna->addStretch(1);
-    setWidget(contenido);
-}
-
-Seccion* MarcoPlan::NuevaSeccion(const char* nombre)
-{
-    auto* seccion = new Seccion(nombre, contenido);
-    columna->addWidget(seccion);
-    return seccion;
+    Cerrar();
 }
 
 QLineEdit* MarcoPlan::NuevaCaja(const char* nombre, int caracteres)
@@ -269,11 +248,6 @@ void MarcoPlan::MedirLineas()
     lblHour->PonerModelo(textosPanel::TextoHoraLocal(22.0));
     lblCursor->PonerModelo(TraducirCon("main.dyn.cursor", modFormato::Format(-88.8888, u"0.0000"),
                                        modFormato::Format(-188.8888, u"0.0000")));
-}
-
-int MarcoPlan::AnchoNecesario() const
-{
-    return AnchoDeColumna(*contenido) + verticalScrollBar()->sizeHint().width();
 }
 
 void MarcoPlan::MostrarObjetivo(const textosPanel::TextosObjetivo& t)

@@ -6,7 +6,7 @@
 
 #include "BarraMinutos.h"
 #include "EtiquetaDato.h"
-#include "Seccion.h"
+#include "MarcoLateral.h"
 #include "textosPanel.h"
 
 #include <QCheckBox>
@@ -15,9 +15,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 
-class MarcoPlan : public QScrollArea
+class MarcoPlan : public MarcoLateral
 {
     Q_OBJECT
 
@@ -29,8 +28,6 @@ public:
     // The caption of the play button alone.
     void RotularAnimacion(bool tocando);
     void MostrarObjetivo(const textosPanel::TextosObjetivo& t);
-    // Width that the frame needs in the present language, logical pixels.
-    int AnchoNecesario() const;
 
     EtiquetaDato* lblObsCoord = nullptr;
     QLineEdit* txtGoto = nullptr;
@@ -74,10 +71,7 @@ private:
     void ConstruirMapa();
     void MedirLineas();
     QLineEdit* NuevaCaja(const char* nombre, int caracteres);
-    Seccion* NuevaSeccion(const char* nombre);
 
-    QWidget* contenido = nullptr;
-    QVBoxLayout* columna = nullptr;
     Seccion* secObservador = nullptr;
     Seccion* secObjetivo = nullptr;
     Seccion* secFecha = nullptr;

@@ -23,11 +23,3 @@ void Seccion::setTitulo(const QString& titulo)
     cabeza->setText(titulo);
     setAccessibleName(titulo);
 }
-
-int AnchoDeColumna(const QWidget& columna)
-{
-    for (const Seccion* seccion : columna.findChildren<Seccion*>(Qt::FindDirectChildrenOnly))
-        seccion->layout()->activate();
-    columna.layout()->activate();
-    return columna.layout()->totalMinimumSize().width();
-}

@@ -20,7 +20,3 @@ private:
     QLabel* cabeza = nullptr;
     QVBoxLayout* filas = nullptr;
 };
-
-// Width that a column of sections needs with the texts of the moment, logical pixels. Layouts notice a
-// new text with the next event; this asks them at once.
-int AnchoDeColumna(const QWidget& columna);

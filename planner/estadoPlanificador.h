@@ -24,6 +24,19 @@ struct EstadoPlanificador
     bool TirasScrubObsoletas = true;  // the colours of the scrub strip must be made again
 };
 
+// Holds Pintando for as long as it lives, whatever ends the refresh.
+class EnPintura
+{
+public:
+    explicit EnPintura(EstadoPlanificador& e) : estado(e) { estado.Pintando = true; }
+    ~EnPintura() { estado.Pintando = false; }
+    EnPintura(const EnPintura&) = delete;
+    EnPintura& operator=(const EnPintura&) = delete;
+
+private:
+    EstadoPlanificador& estado;
+};
+
 // Where Sun and Moon stand at the shown instant, and the directions of the day's risings and settings.
 // A negative azimuth means that there is no such event; an altitude at or below -998, not computed yet.
 struct MomentosActuales

@@ -173,6 +173,7 @@ private:
     bool focoVisible = false; // the focused picture wears its frame
     punteroMapa::PunteroMapa puntero;
     QPoint ultimo;               // last press on the map, for the double click
+    int ruedaPendiente = 0;      // turn of the wheel short of a notch
     QPoint clic;                 // of the pending click
     bool esperandoTiles = false; // the pointer is the hourglass
 

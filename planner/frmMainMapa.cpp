@@ -22,6 +22,8 @@
 #include <QMouseEvent>
 #include <QStyleHints>
 
+#include <cstdlib>
+
 using modI18n::TraducirCon;
 using punteroMapa::Accion;
 
@@ -29,6 +31,7 @@ namespace {
 
 constexpr int kSondeoMs = 140;  // poll of the download queue
 constexpr int kPasoTeclas = 64; // pixels that an arrow key pans
+constexpr int kMuesca = 120;    // turn of one notch of the wheel
 constexpr int kGrosorFoco = 2;  // frame of the focused map, pixels
 
 void PintarFoco(LienzoMapa& lienzo, int w, int h)
@@ -162,11 +165,10 @@ void frmMain::SondearDescargas()
     }
     PonerEspera(true);
     if (modDescargas::SondearDescargas() >= 1 && !estado.Pintando) {
-        estado.Pintando = true;
+        const EnPintura guardia(estado);
         modMap::CargarTilesVisibles(estado.vista);
         RepintarMapa();
         ActualizarTitulo({});
-        estado.Pintando = false;
     }
     if (!modDescargas::HayDescargasPendientes()) {
         tmrDescargas->stop();
@@ -366,7 +368,8 @@ bool frmMain::TeclaMapa(QKeyEvent* evento)
     return true;
 }
 
-// The wheel zooms under the pointer, and never leaves the map for the globe.
+// The wheel zooms under the pointer, a level to a notch, and never leaves the map for the globe. Smooth
+// wheels and touch pads send parts of a notch, which add up.
 void frmMain::RuedaEvento(int delta, const QPointF& enPantalla)
 {
     if (estado.Cerrando || estado.Pintando)
@@ -374,7 +377,13 @@ void frmMain::RuedaEvento(int delta, const QPointF& enPantalla)
     const QPoint donde = picMap->mapFromGlobal(enPantalla).toPoint();
     if (!picMap->rect().contains(donde))
         return;
-    const std::int16_t d = delta > 0 ? 1 : -1;
+    if ((delta > 0) != (ruedaPendiente > 0))
+        ruedaPendiente = 0;
+    ruedaPendiente += delta;
+    if (std::abs(ruedaPendiente) < kMuesca)
+        return;
+    const std::int16_t d = ruedaPendiente > 0 ? 1 : -1;
+    ruedaPendiente = 0;
     if (d < 0 && estado.vista.zoom < 3)
         return;
     modMap::ZoomEnPunto(estado.vista, donde.x(), donde.y(), d);

@@ -73,7 +73,7 @@ void frmMain::RefrescarTodo()
 {
     if (estado.Cerrando || estado.Pintando)
         return;
-    estado.Pintando = true;
+    const EnPintura guardia(estado);
     RecalcularPaneles(false);
     RepintarMapa();
     if (estado.vista.zoom > 1) {
@@ -84,7 +84,6 @@ void frmMain::RefrescarTodo()
             RepintarMapa(); // the notice shows
     }
     ActualizarTitulo({});
-    estado.Pintando = false;
 }
 
 void frmMain::ActualizarTitulo(const QString& detalle)

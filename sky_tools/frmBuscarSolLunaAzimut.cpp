@@ -1,6 +1,7 @@
 #include "frmBuscarSolLunaAzimut.h"
 
 #include "Lienzo.h"
+#include "LineaEstado.h"
 #include "ListaLineas.h"
 #include "Planificador.h"
 #include "RelojDeArena.h"
@@ -23,7 +24,6 @@
 #include <string>
 
 using modI18n::Traducir;
-using modI18n::TraducirCon;
 
 namespace {
 
@@ -91,8 +91,7 @@ void frmBuscarSolLunaAzimut::ConstruirControles()
     lstResultados->Encabezar(lblCabecera);
     auto* lblTitulo = Crear<QLabel>("lblTitulo");
     Rotular(lblTitulo, "buscarsollunaazimut.lbl.titulo", lstResultados);
-    lblEstado = Crear<QLabel>("lblEstado");
-    lblEstado->setProperty("rol", QStringLiteral("estado"));
+    lblEstado = Crear<LineaEstado>("lblEstado");
     auto* cmdCerrar = CrearCerrar("buscarsollunaazimut.btn.cerrar");
 
     // Spacings are named, since a layout without one takes its parent's.
@@ -130,14 +129,7 @@ void frmBuscarSolLunaAzimut::RetraducirResto()
 {
     cmbCuerpo->setItemText(0, Traducir("buscarsollunaazimut.cuerpo.sol"));
     cmbCuerpo->setItemText(1, Traducir("buscarsollunaazimut.cuerpo.luna"));
-    MostrarCuenta();
-}
-
-void frmBuscarSolLunaAzimut::MostrarCuenta()
-{
-    lblEstado->setText(
-        resultados < 0 ? QString()
-                       : TraducirCon("buscarsollunaazimut.estado.resultados", QString::number(resultados)));
+    lblEstado->Retraducir();
 }
 
 void frmBuscarSolLunaAzimut::Buscar()
@@ -147,15 +139,15 @@ void frmBuscarSolLunaAzimut::Buscar()
         std::clamp(std::nearbyint(modFormato::LeerNumero(txtDias->text())), 1.0, kDiasMaximos);
     const bool luna = cmbCuerpo->currentIndex() == 1;
     lstResultados->clear();
-    lblEstado->setText(Traducir("buscarsollunaazimut.estado.buscando"));
+    lblEstado->Decir("buscarsollunaazimut.estado.buscando");
     QString texto;
     {
         const RelojDeArena espera;
         texto = plan.BuscarAzimut(luna, azimut, static_cast<std::int32_t>(dias));
         DibujarBrujula();
     }
-    resultados = lstResultados->PonerTexto(texto);
-    MostrarCuenta();
+    lstResultados->PonerTexto(texto);
+    lblEstado->Decir("buscarsollunaazimut.estado.resultados", {QString::number(lstResultados->count())});
 }
 
 void frmBuscarSolLunaAzimut::DibujarBrujula()

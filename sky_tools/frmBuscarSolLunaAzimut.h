@@ -6,6 +6,7 @@
 #include "brujula.h"
 
 class Lienzo;
+class LineaEstado;
 class ListaLineas;
 class Planificador;
 class QComboBox;
@@ -25,11 +26,9 @@ private:
     void RetraducirResto() override;
     void Buscar();         // read, search, show
     void DibujarBrujula(); // fill datos, ask picBrujula to repaint
-    void MostrarCuenta();
 
     Planificador& plan;
     brujula::DatosBrujula datos;
-    int resultados = -1; // -1: nothing has been searched yet
 
     QComboBox* cmbCuerpo = nullptr;
     QLineEdit* txtAzimut = nullptr;
@@ -37,5 +36,5 @@ private:
     QPushButton* cmdBuscar = nullptr;
     Lienzo* picBrujula = nullptr;
     ListaLineas* lstResultados = nullptr;
-    QLabel* lblEstado = nullptr;
+    LineaEstado* lblEstado = nullptr;
 };

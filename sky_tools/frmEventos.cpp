@@ -1,6 +1,7 @@
 #include "frmEventos.h"
 
 #include "Lienzo.h"
+#include "LineaEstado.h"
 #include "ListaLineas.h"
 #include "Planificador.h"
 #include "RelojDeArena.h"
@@ -8,7 +9,6 @@
 #include "irALinea.h"
 #include "modAstro.h"
 #include "modFormato.h"
-#include "modI18n.h"
 
 #include <QDate>
 #include <QHBoxLayout>
@@ -22,8 +22,6 @@
 #include <algorithm>
 
 using calendario::Dia;
-using modI18n::Traducir;
-using modI18n::TraducirCon;
 
 namespace {
 
@@ -74,8 +72,7 @@ void frmEventos::ConstruirControles()
     lstEventos->Encabezar(lblCabecera);
     auto* lblTitulo = Crear<QLabel>("lblTitulo");
     Rotular(lblTitulo, "eventos.lbl.titulo", lstEventos);
-    lblEstado = Crear<QLabel>("lblEstado");
-    lblEstado->setProperty("rol", QStringLiteral("estado"));
+    lblEstado = Crear<LineaEstado>("lblEstado");
     auto* cmdCerrar = CrearCerrar("eventos.btn.cerrar");
 
     auto* cabeza = new QHBoxLayout;
@@ -119,37 +116,18 @@ void frmEventos::ConectarSenales()
 
 void frmEventos::RetraducirResto()
 {
-    MostrarEstado(estado);
-}
-
-void frmEventos::MostrarEstado(Estado nuevo)
-{
-    estado = nuevo;
-    switch (estado) {
-    case Estado::Nada:
-        lblEstado->clear();
-        break;
-    case Estado::Calculando:
-        lblEstado->setText(Traducir("eventos.estado.calculando"));
-        break;
-    case Estado::AnioNoValido:
-        lblEstado->setText(Traducir("eventos.estado.ano_no_valido"));
-        break;
-    case Estado::Contados:
-        lblEstado->setText(TraducirCon("eventos.estado.eventos", QString::number(lstEventos->count())));
-        break;
-    }
+    lblEstado->Retraducir();
 }
 
 void frmEventos::Calcular()
 {
     const std::int16_t anio = modFormato::LeerEntero16(txtAno->text());
     if (anio < modAstro::kAnioMinimo || anio > modAstro::kAnioMaximo) {
-        MostrarEstado(Estado::AnioNoValido);
+        lblEstado->Decir("eventos.estado.ano_no_valido");
         return;
     }
     lstEventos->clear();
-    MostrarEstado(Estado::Calculando);
+    lblEstado->Decir("eventos.estado.calculando");
     QString texto;
     {
         const RelojDeArena espera;
@@ -158,7 +136,7 @@ void frmEventos::Calcular()
     }
     picCal->update();
     lstEventos->PonerTexto(texto);
-    MostrarEstado(Estado::Contados);
+    lblEstado->Decir("eventos.estado.eventos", {QString::number(lstEventos->count())});
 }
 
 std::optional<Dia> frmEventos::DiaBajo(const QPointF& punto) const

@@ -8,6 +8,7 @@
 #include <optional>
 
 class Lienzo;
+class LineaEstado;
 class ListaLineas;
 class Planificador;
 class QLineEdit;
@@ -20,19 +21,10 @@ public:
     explicit frmEventos(Planificador& planificador, QWidget* padre = nullptr);
 
 private:
-    enum class Estado
-    {
-        Nada,
-        Calculando,
-        AnioNoValido,
-        Contados
-    };
-
     void ConstruirControles();
     void ConectarSenales();
     void RetraducirResto() override;
     void Calcular(); // read, compute, show
-    void MostrarEstado(Estado nuevo);
 
     std::optional<calendario::Dia> DiaBajo(const QPointF& punto) const;
     void IrADia(const calendario::Dia& dia);
@@ -41,11 +33,10 @@ private:
 
     Planificador& plan;
     calendario::CalendarioAnual datos;
-    Estado estado = Estado::Nada;
 
     QLineEdit* txtAno = nullptr;
     QPushButton* cmdCalcular = nullptr;
     Lienzo* picCal = nullptr;
     ListaLineas* lstEventos = nullptr;
-    QLabel* lblEstado = nullptr;
+    LineaEstado* lblEstado = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "frmMejorVL.h"
 
 #include "Lienzo.h"
+#include "LineaEstado.h"
 #include "ListaLineas.h"
 #include "Planificador.h"
 #include "RelojDeArena.h"
@@ -22,7 +23,6 @@
 #include <algorithm>
 
 using modI18n::Traducir;
-using modI18n::TraducirCon;
 
 namespace {
 
@@ -95,8 +95,7 @@ void frmMejorVL::ConstruirControles()
     lstNoches->Encabezar(lblCabecera);
     auto* lblTitulo = Crear<QLabel>("lblTitulo");
     Rotular(lblTitulo, "mejorvl.lbl.titulo", lstNoches);
-    lblEstado = Crear<QLabel>("lblEstado");
-    lblEstado->setProperty("rol", QStringLiteral("estado"));
+    lblEstado = Crear<LineaEstado>("lblEstado");
     auto* cmdCerrar = CrearCerrar("mejorvl.btn.cerrar");
 
     auto* cabeza = new QHBoxLayout;
@@ -150,38 +149,19 @@ void frmMejorVL::RetraducirResto()
 {
     datos.aviso = Traducir("mejorvl.franja.vacia");
     picFranja->update();
-    MostrarEstado(estado);
-}
-
-void frmMejorVL::MostrarEstado(Estado nuevo)
-{
-    estado = nuevo;
-    switch (estado) {
-    case Estado::Nada:
-        lblEstado->clear();
-        break;
-    case Estado::Calculando:
-        lblEstado->setText(Traducir("mejorvl.estado.calculando"));
-        break;
-    case Estado::AnioNoValido:
-        lblEstado->setText(Traducir("mejorvl.estado.ano_no_valido"));
-        break;
-    case Estado::Contadas:
-        lblEstado->setText(TraducirCon("mejorvl.estado.noches", QString::number(lstNoches->count())));
-        break;
-    }
+    lblEstado->Retraducir();
 }
 
 void frmMejorVL::Calcular()
 {
     const std::int16_t anio = modFormato::LeerEntero16(txtAno->text());
     if (anio < modAstro::kAnioMinimo || anio > modAstro::kAnioMaximo) {
-        MostrarEstado(Estado::AnioNoValido);
+        lblEstado->Decir("mejorvl.estado.ano_no_valido");
         return;
     }
     lstNoches->clear();
     lblFranjaInfo->clear();
-    MostrarEstado(Estado::Calculando);
+    lblEstado->Decir("mejorvl.estado.calculando");
     QString texto;
     {
         const RelojDeArena espera;
@@ -191,7 +171,7 @@ void frmMejorVL::Calcular()
         texto = plan.MejoresNochesVL(anio);
     }
     lstNoches->PonerTexto(texto);
-    MostrarEstado(Estado::Contadas);
+    lblEstado->Decir("mejorvl.estado.noches", {QString::number(lstNoches->count())});
 }
 
 void frmMejorVL::MostrarNoche(int noche)

@@ -5,6 +5,7 @@
 #include "franjaVL.h"
 
 class Lienzo;
+class LineaEstado;
 class ListaLineas;
 class Planificador;
 class QLineEdit;
@@ -17,20 +18,11 @@ public:
     explicit frmMejorVL(Planificador& planificador, QWidget* padre = nullptr);
 
 private:
-    enum class Estado
-    {
-        Nada,
-        Calculando,
-        AnioNoValido,
-        Contadas
-    };
-
     void ConstruirControles();
     QWidget* ConstruirLeyenda();
     void ConectarSenales();
     void RetraducirResto() override;
     void Calcular(); // read, compute, show
-    void MostrarEstado(Estado nuevo);
 
     bool HayFranja() const { return datos.anio != 0; }
     void MostrarNoche(int noche);
@@ -40,12 +32,11 @@ private:
 
     Planificador& plan;
     franjaVL::FranjaAnual datos;
-    Estado estado = Estado::Nada;
 
     QLineEdit* txtAno = nullptr;
     QPushButton* cmdCalcular = nullptr;
     Lienzo* picFranja = nullptr;
     QLabel* lblFranjaInfo = nullptr;
     ListaLineas* lstNoches = nullptr;
-    QLabel* lblEstado = nullptr;
+    LineaEstado* lblEstado = nullptr;
 };

@@ -209,6 +209,27 @@ TEST_F(frmMainMapa, TheWheelZoomsUnderThePointerAndNeverLeavesTheMap)
     EXPECT_EQ(Vista().zoom, 18);
 }
 
+TEST_F(frmMainMapa, PartsOfANotchAddUp)
+{
+    Abrir();
+    for (int i = 0; i < 7; ++i)
+        Rueda({50, 50}, 15);
+    EXPECT_EQ(Vista().zoom, 6);
+    Rueda({50, 50}, 15);
+    EXPECT_EQ(Vista().zoom, 7);
+    Rueda({50, 50}, 90);
+    Rueda({50, 50}, -120);
+    EXPECT_EQ(Vista().zoom, 6) << "turning back forgets what was pending";
+}
+
+TEST_F(frmMainMapa, TheWheelBesideTheMapDoesNothing)
+{
+    Abrir();
+    Rueda({-20, 50}, 120);
+    Rueda({50, Mapa()->height() + 5}, 120);
+    EXPECT_EQ(Vista().zoom, 6);
+}
+
 TEST_F(frmMainMapa, TheButtonsZoomAndCentre)
 {
     Abrir();

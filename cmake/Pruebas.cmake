@@ -1,4 +1,4 @@
-# prueba(NAME FUENTES ... VE ... [VENTANA] [LITERAL])
+# prueba(NAME FUENTES ... VE ... [VENTANA])
 #
 # One GoogleTest executable, registered with CTest under its own name.
 #   FUENTES  sources; the folder's tests/comun main() starts the application object that Qt needs
@@ -21,4 +21,7 @@ function(prueba nombre)
   set_tests_properties(${nombre} PROPERTIES
     TIMEOUT 900
     ENVIRONMENT "QT_QPA_PLATFORM=${plataforma};QT_SCALE_FACTOR=1;LIBGL_ALWAYS_SOFTWARE=1")
+  if(P_VENTANA) # one pointer, one focus: tests that need them take turns
+    set_tests_properties(${nombre} PROPERTIES RESOURCE_LOCK pantalla)
+  endif()
 endfunction()

@@ -27,12 +27,21 @@ static_assert(kMomentos[kMuestras] <= 1.0 && kMomentos[kMuestras] + kPaso > 1.0)
 // Below this difference of sines the polynomial does not decide between two altitudes.
 constexpr double kDuda = 1e-10;
 
+// Beside the greatest altitude the curve is so flat that below this difference of sines the polynomial's
+// rounding, not the sky, would choose: a wrong choice costs up to a tenth of a second.
+constexpr double kDudaMaximo = 1e-11;
+
 // Sine of an altitude aimed at; beyond the zenith and the nadir no body ever reaches it.
 double SenoObjetivo(double objetivo)
 {
     if (objetivo >= 90)
         return 2;
     return objetivo <= -90 ? -2 : SenoCoseno(objetivo).sen;
+}
+
+double SenoDe(const VectorHorizontal& v)
+{
+    return v.cenit / std::sqrt(v.norte * v.norte + v.este * v.este + v.cenit * v.cenit);
 }
 
 // Samples that may be left out: as many as it takes to use up a difference at the greatest rate.
@@ -62,8 +71,7 @@ void BarridoDia::AzAlt(double t, double& altitud, double& azimut) const
 
 double BarridoDia::Seno(double t) const
 {
-    const VectorHorizontal v = tramo.EnHorizonte(t, obs);
-    return v.cenit / std::sqrt(v.norte * v.norte + v.este * v.este + v.cenit * v.cenit);
+    return SenoDe(tramo.EnHorizonte(t, obs));
 }
 
 // A sample stands where the Julian day can stand.
@@ -177,12 +185,13 @@ void BarridoDia::CrucesHorizonte(CruceDia& cruce) const
     };
     bool antes = false;
     for (int k = 0; k <= kMuestras;) {
-        const double seno = SenoMuestra(k);
+        const VectorHorizontal v = tramo.EnHorizonte((jd0 + kMomentos[k]) - jd0, obs);
+        const double seno = SenoDe(v);
         const double lejos = std::max(senoMinimo - seno, seno - senoMaximo);
         bool encima = seno > senoMaximo;
         if (lejos <= kDuda) {
             double altitud, azimut;
-            AzAlt(kMomentos[k], altitud, azimut);
+            VectorAAltAz(v, altitud, azimut);
             double umbral = cruce.objetivo + modAstroEstado::HorizonteEnAzimut(azimut);
             if (std::fabs(altitud - umbral) < kDuda * kRadAGrados) {
                 AzAltCuerpo(jd0 + kMomentos[k], lat, lon, tramo.EsLuna(), altitud, azimut);
@@ -199,6 +208,12 @@ void BarridoDia::CrucesHorizonte(CruceDia& cruce) const
         antes = encima;
         k += Salto(lejos, cotaRitmo);
     }
+}
+
+// From the series, at the Julian day that jd0 + t rounds to.
+double BarridoDia::SenoDirecto(double t) const
+{
+    return SenoDe(tramo.EsLuna() ? HorizonteLuna(jd0 + t, obs) : HorizonteSol(jd0 + t, obs));
 }
 
 double BarridoDia::Maximo(double objetivo) const
@@ -238,7 +253,13 @@ double BarridoDia::Maximo(double objetivo) const
     for (int i = 0; i < 32; ++i) {
         const double m1 = bajo + (alto - bajo) / 3;
         const double m2 = alto - (alto - bajo) / 3;
-        if (Seno(m1) < Seno(m2))
+        double s1 = Seno(m1);
+        double s2 = Seno(m2);
+        if (std::fabs(s1 - s2) < kDudaMaximo) {
+            s1 = SenoDirecto(m1);
+            s2 = SenoDirecto(m2);
+        }
+        if (s1 < s2)
             bajo = m1;
         else
             alto = m2;

@@ -44,7 +44,7 @@ public:
     // The day of a body that starts at jd0, seen from a place in degrees.
     BarridoDia(bool luna, double jd0, double lat, double lon);
 
-    // Finds the crossings of several altitudes in one scan.
+    // Finds the crossings of up to eight altitudes in one scan.
     void Cruces(std::span<CruceDia> cruces) const;
 
     // The same for one altitude above the real skyline in memory.
@@ -58,6 +58,7 @@ public:
 
 private:
     double Seno(double t) const;
+    double SenoDirecto(double t) const;
     double SenoMuestra(int k) const;
     bool Encima(int k, double seno, double senoObjetivo, double objetivo) const;
     double Cruce(int k, double senoObjetivo) const;

@@ -9,7 +9,7 @@
 // Altitudes carry no refraction. A Moon flag is false for the Sun and true for the Moon.
 //
 // Free functions without state (the skyline that the solver reads is in PerfilHorizonte.h); nothing
-// allocates but the two texts, nothing throws. Absence is a value: moment -1, azimuth -1, altitude -999.
+// allocates but the texts, nothing throws. Absence is a value: moment -1, azimuth -1, altitude -999.
 //
 // Sources: J. Meeus, Astronomical Algorithms (2nd ed., 1998), chapters 7 (Julian day), 12 (sidereal
 // time), 13 (horizontal coordinates), 25 (Sun), 40 (parallax), 47 (Moon) and 48 (illuminated fraction).

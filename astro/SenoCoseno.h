@@ -38,21 +38,16 @@ inline SenCos SenoCoseno(double grados)
     const double n = RedondearRapido(grados * (1.0 / 90));
     const double r = (grados - n * 90) * (3.141592653589793 / 180);
     const double z = r * r;
-    const double sen =
-        r + r * z *
-                (-1.66666666666666324348e-01 +
-                 z * (8.33333333332248946124e-03 +
-                      z * (-1.98412698298579493134e-04 +
-                           z * (2.75573137070700676789e-06 +
-                                z * (-2.50507602534068634195e-08 + z * 1.58969099521155010221e-10)))));
+    const double z2 = z * z;
+    // In pairs rather than by Horner: the series wait for this result, so the shorter chain counts.
+    const double sen = r + r * z *
+                               ((-1.66666666666666324348e-01 + z * 8.33333333332248946124e-03) +
+                                z2 * ((-1.98412698298579493134e-04 + z * 2.75573137070700676789e-06) +
+                                      z2 * (-2.50507602534068634195e-08 + z * 1.58969099521155010221e-10)));
     const double cos =
-        1 - (0.5 * z -
-             z * z *
-                 (4.16666666666666019037e-02 +
-                  z * (-1.38888888888741095749e-03 +
-                       z * (2.48015872894767294178e-05 +
-                            z * (-2.75573143513906633035e-07 +
-                                 z * (2.08757232129817482790e-09 + z * -1.13596475577881948265e-11))))));
+        1 - (0.5 * z - z2 * ((4.16666666666666019037e-02 + z * -1.38888888888741095749e-03) +
+                             z2 * ((2.48015872894767294178e-05 + z * -2.75573143513906633035e-07) +
+                                   z2 * (2.08757232129817482790e-09 + z * -1.13596475577881948265e-11))));
 
     // By quadrant: (sen, cos), (cos, -sen), (-sen, -cos), (-cos, sen); exchange and signs by bits.
     const auto cuadrante = static_cast<std::uint64_t>(static_cast<std::int64_t>(n));

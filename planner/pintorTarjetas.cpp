@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 namespace pintorTarjetas {
 
@@ -61,26 +62,39 @@ struct Linea
 
 constexpr int kEstrechos[] = {100, 90, 80, 72}; // percent of the letter's width
 
-// The widest letter in which every text fits; in the narrowest what still does not is elided.
-template <typename Texto> Linea Componer(const QFont& base, std::size_t n, double ancho, const Texto& texto)
+// What becomes of a text that is too wide in the smallest letter: a cut number would lie.
+enum class SiNoCabe
+{
+    Elidir,
+    Omitir,
+};
+
+// The first letter in which every text fits: sizes in points from the largest, each in its widths. In the
+// last one, what still does not fit is elided or left out.
+template <typename Texto>
+Linea Componer(const QFont& base, std::initializer_list<int> tamanos, std::size_t n, double ancho,
+               SiNoCabe siNoCabe, const Texto& texto)
 {
     Linea linea;
-    for (const int estrecho : kEstrechos) {
-        linea.fuente = base;
-        linea.fuente.setStretch(estrecho);
-        const QFontMetricsF fm(linea.fuente);
-        linea.textos.clear();
-        bool caben = true;
-        for (std::size_t i = 0; i < n; ++i) {
-            linea.textos.push_back(texto(i, fm));
-            caben = caben && fm.horizontalAdvance(linea.textos.back()) <= ancho;
+    for (const int tamano : tamanos) {
+        for (const int estrecho : kEstrechos) {
+            linea.fuente = rotulos::Fuente(base, tamano);
+            linea.fuente.setStretch(estrecho);
+            const QFontMetricsF fm(linea.fuente);
+            linea.textos.clear();
+            bool caben = true;
+            for (std::size_t i = 0; i < n; ++i) {
+                linea.textos.push_back(texto(i, fm));
+                caben = caben && fm.horizontalAdvance(linea.textos.back()) <= ancho;
+            }
+            if (caben)
+                return linea;
         }
-        if (caben)
-            return linea;
     }
     const QFontMetricsF fm(linea.fuente);
     for (QString& t : linea.textos)
-        t = fm.elidedText(t, Qt::ElideRight, ancho);
+        if (fm.horizontalAdvance(t) > ancho)
+            t = siNoCabe == SiNoCabe::Elidir ? fm.elidedText(t, Qt::ElideRight, ancho) : QString();
     return linea;
 }
 
@@ -113,8 +127,6 @@ void Pintar(QPainter& p, const std::vector<TarjetaEvento>& cartas, const TablaTa
     const double ancho = tabla.celdas[0].x2 - tabla.celdas[0].x1 - 2.0 * kAire;
     if (ancho < 1.0)
         return;
-    const QFont pequena = rotulos::Fuente(p.font(), 7);
-    const QFont grande = rotulos::Fuente(p.font(), 9);
     const auto escribir = [&](const Linea& linea, double y, const QColor& color) {
         p.setFont(linea.fuente);
         for (std::size_t i = 0; i < cartas.size(); ++i) {
@@ -124,21 +136,19 @@ void Pintar(QPainter& p, const std::vector<TarjetaEvento>& cartas, const TablaTa
         }
     };
     const std::size_t n = cartas.size();
-    escribir(
-        Componer(pequena, n, ancho,
-                 [&](std::size_t i, const QFontMetricsF& fm) { return NombreQueCabe(cartas[i], fm, ancho); }),
-        2.0, kNombre);
-    escribir(Componer(grande, n, ancho,
-                      [&](std::size_t i, const QFontMetricsF&) {
-                          return tarjetas::TextoRelojTarjeta(cartas[i].hora);
-                      }),
-             16.0, kReloj);
-    escribir(
-        Componer(pequena, n, ancho, [&](std::size_t i, const QFontMetricsF&) { return cartas[i].linea3; }),
-        36.0, kDetalle);
-    escribir(
-        Componer(pequena, n, ancho, [&](std::size_t i, const QFontMetricsF&) { return cartas[i].linea4; }),
-        50.0, kDetalle);
+    const QFont base = p.font();
+    const auto nombre = [&](std::size_t i, const QFontMetricsF& fm) {
+        return NombreQueCabe(cartas[i], fm, ancho);
+    };
+    const auto reloj = [&](std::size_t i, const QFontMetricsF&) {
+        return tarjetas::TextoRelojTarjeta(cartas[i].hora);
+    };
+    const auto linea3 = [&](std::size_t i, const QFontMetricsF&) { return cartas[i].linea3; };
+    const auto linea4 = [&](std::size_t i, const QFontMetricsF&) { return cartas[i].linea4; };
+    escribir(Componer(base, {7}, n, ancho, SiNoCabe::Elidir, nombre), 2.0, kNombre);
+    escribir(Componer(base, {9, 8, 7}, n, ancho, SiNoCabe::Omitir, reloj), 16.0, kReloj);
+    escribir(Componer(base, {7, 6}, n, ancho, SiNoCabe::Omitir, linea3), 36.0, kDetalle);
+    escribir(Componer(base, {7, 6}, n, ancho, SiNoCabe::Omitir, linea4), 50.0, kDetalle);
 }
 
 } // namespace pintorTarjetas

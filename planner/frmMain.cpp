@@ -33,6 +33,7 @@ namespace {
 
 constexpr int kZoomInicial = 6;
 constexpr QSize kTamanoInicial{1360, 860}; // logical pixels, held to the screen
+constexpr QSize kBordesVentana{16, 56};    // what title bar and borders may take
 constexpr QSize kTamanoMinimo{720, 480};
 constexpr int kRondasEspera = 100; // pumps that Exit grants a refresh that is still running
 
@@ -130,8 +131,13 @@ void frmMain::Cargar()
     actuales = {};
     PonerRelojYZona();
 
-    resize(kTamanoInicial.boundedTo(screen()->availableSize()));
-    show();
+    // A screen with no room to spare is filled, so that no edge of the window hangs over it.
+    const QSize libre = screen()->availableSize() - kBordesVentana;
+    resize(kTamanoInicial.boundedTo(libre));
+    if (size() == kTamanoInicial)
+        show();
+    else
+        showMaximized();
     modBombeo::Bombear();
     if (estado.Cerrando)
         return;

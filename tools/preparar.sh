@@ -44,7 +44,11 @@ pantalla() {
     chmod 700 "$dir"
     openbox >/dev/null 2>&1 &
     gestor=$!
-    until xdotool get_num_desktops >/dev/null 2>&1; do sleep 0.1; done # the window manager is there
+    local vez
+    for vez in $(seq 100); do # until the window manager is there
+        xdotool get_num_desktops >/dev/null 2>&1 && break
+        sleep 0.1
+    done
     "$@" || rc=$?
     kill "$gestor" "$servidor" 2>/dev/null || true
     wait "$gestor" "$servidor" 2>/dev/null || true

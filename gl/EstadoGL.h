@@ -63,6 +63,8 @@ struct EstadoGL
     bool Exacta(GLuint textura, double w, double h) const;
     // A mesh for untextured shapes and texts, which always do.
     trazo::Malla& Formas() { return lote.Abrir(atlas.Textura(), vector, true); }
+    // For areas in plain colour.
+    trazo::Malla& Areas() { return lote.Abrir(0, true, true); }
     trazo::Malla& FormasMezcladas() { return lote.Abrir(atlas.Textura(), true, true); }
 };
 

@@ -35,23 +35,41 @@ void main()
 }
 )";
 
+constexpr char kFragmentosLisos[] = R"(#version 330 core
+in vec2 st;
+in vec4 color;
+uniform float opaco;
+out vec4 salida;
+void main()
+{
+    salida = vec4(color.rgb, max(color.a, opaco));
+}
+)";
+
 constexpr GLsizeiptr kCabidaInicial = 256 * 1024; // bytes: some 13 000 vertices, more than a usual frame
 
 } // namespace
 
+bool LoteGL::Programa::Crear(const char* fragmentos)
+{
+    sombreador = std::make_unique<QOpenGLShaderProgram>();
+    if (!sombreador->addShaderFromSourceCode(QOpenGLShader::Vertex, kVertices) ||
+        !sombreador->addShaderFromSourceCode(QOpenGLShader::Fragment, fragmentos) || !sombreador->link()) {
+        sombreador.reset();
+        return false;
+    }
+    uEscala = sombreador->uniformLocation("escala");
+    uOpaco = sombreador->uniformLocation("opaco");
+    return true;
+}
+
 bool LoteGL::Crear(QOpenGLExtraFunctions* funciones)
 {
     gl = funciones;
-    programa = std::make_unique<QOpenGLShaderProgram>();
-    if (!programa->addShaderFromSourceCode(QOpenGLShader::Vertex, kVertices) ||
-        !programa->addShaderFromSourceCode(QOpenGLShader::Fragment, kFragmentos) || !programa->link()) {
-        programa.reset();
+    if (!conTextura.Crear(kFragmentos) || !liso.Crear(kFragmentosLisos))
         return false;
-    }
-    programa->bind();
-    programa->setUniformValue("textura", 0);
-    uEscala = programa->uniformLocation("escala");
-    uOpaco = programa->uniformLocation("opaco");
+    conTextura.sombreador->bind();
+    conTextura.sombreador->setUniformValue("textura", 0);
 
     formato = std::make_unique<QOpenGLVertexArrayObject>();
     if (!formato->create())
@@ -73,7 +91,7 @@ bool LoteGL::Crear(QOpenGLExtraFunctions* funciones)
     atributo(1, 2, GL_FLOAT, offsetof(trazo::Vertice, u));
     atributo(2, 4, GL_UNSIGNED_BYTE, offsetof(trazo::Vertice, tinta));
     formato->release();
-    programa->release();
+    conTextura.sombreador->release();
 
     gl->glGenSamplers(1, &sinFiltro);
     gl->glSamplerParameteri(sinFiltro, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
@@ -96,7 +114,8 @@ void LoteGL::Liberar()
         gl->glDeleteSamplers(1, &sinFiltro);
     bufferVertices = bufferIndices = sinFiltro = 0;
     formato.reset();
-    programa.reset();
+    conTextura.sombreador.reset();
+    liso.sombreador.reset();
     gl = nullptr;
 }
 
@@ -143,8 +162,12 @@ void LoteGL::Dibujar(double ancho, double alto, int& dibujos, int& vertices)
         Vaciar();
         return;
     }
-    programa->bind();
-    programa->setUniformValue(uEscala, static_cast<float>(2.0 / ancho), static_cast<float>(2.0 / alto));
+    for (const Programa* p : {&liso, &conTextura}) {
+        p->sombreador->bind();
+        p->sombreador->setUniformValue(p->uEscala, static_cast<float>(2.0 / ancho),
+                                       static_cast<float>(2.0 / alto));
+    }
+    const Programa* enUso = &conTextura;
     formato->bind();
     Enviar();
     gl->glActiveTexture(GL_TEXTURE0);
@@ -159,7 +182,11 @@ void LoteGL::Dibujar(double ancho, double alto, int& dibujos, int& vertices)
             gl->glEnable(GL_BLEND);
         else
             gl->glDisable(GL_BLEND);
-        programa->setUniformValue(uOpaco, o.mezcla ? 0.0F : 1.0F);
+        const Programa* suyo = o.textura == 0 ? &liso : &conTextura;
+        if (suyo != enUso)
+            suyo->sombreador->bind();
+        enUso = suyo;
+        enUso->sombreador->setUniformValue(enUso->uOpaco, o.mezcla ? 0.0F : 1.0F);
         gl->glBindTexture(GL_TEXTURE_2D, o.textura);
         gl->glBindSampler(0, o.exacta ? sinFiltro : 0);
         gl->glDrawElements(GL_TRIANGLES, static_cast<GLsizei>(hasta - o.desde), GL_UNSIGNED_INT,
@@ -171,6 +198,6 @@ void LoteGL::Dibujar(double ancho, double alto, int& dibujos, int& vertices)
     gl->glBindSampler(0, 0);
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     formato->release();
-    programa->release();
+    enUso->sombreador->release();
     Vaciar();
 }

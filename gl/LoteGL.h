@@ -26,8 +26,8 @@ public:
     void Vaciar();
     bool Vacio() const { return malla.indices.empty(); }
 
-    // The mesh, with an order open for this texture and blending; `exacta` promises that texels fall on whole
-    // device pixels one to one. A reference is good until the next call.
+    // The mesh, with an order open for this texture (0: none, the colours alone) and blending; `exacta`
+    // promises that texels fall on whole device pixels one to one. A reference is good until the next call.
     trazo::Malla& Abrir(GLuint textura, bool mezcla, bool exacta);
 
     // Draws into the bound frame buffer with the projection (0, 0) top left to (ancho, alto), then empties
@@ -42,15 +42,22 @@ private:
         bool exacta;
         std::size_t desde; // first index
     };
+    struct Programa
+    {
+        std::unique_ptr<QOpenGLShaderProgram> sombreador;
+        int uEscala = -1, uOpaco = -1;
+
+        bool Crear(const char* fragmentos);
+    };
     void Enviar();
 
     QOpenGLExtraFunctions* gl = nullptr;
-    std::unique_ptr<QOpenGLShaderProgram> programa;
+    // Large areas in plain colour do without reading a texel per pixel, which a software driver feels.
+    Programa conTextura, liso;
     std::unique_ptr<QOpenGLVertexArrayObject> formato;
     GLuint bufferVertices = 0, bufferIndices = 0;
     GLuint sinFiltro = 0;                           // sampler: nearest texel
     GLsizeiptr cabenVertices = 0, cabenIndices = 0; // bytes
-    int uEscala = -1, uOpaco = -1;
     trazo::Malla malla;
     std::vector<Orden> ordenes;
 };

@@ -14,8 +14,9 @@
 // 1. Before CrearContextoGL succeeds, and while a context is lost, every function below does nothing and
 // those that answer say false, 0 or an empty picture. No function shows a message or throws.
 //
-// Primitives that follow one another with the same texture share a draw call; all untextured shapes and all
-// texts count as one texture. In a steady view a frame creates no texture and no buffer.
+// Primitives that follow one another with the same texture share a draw call; quads count as one texture, all
+// other untextured shapes and the texts as another. In a steady view a frame creates no texture and no
+// buffer.
 #pragma once
 
 #include "color.h"

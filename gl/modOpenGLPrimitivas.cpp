@@ -135,7 +135,7 @@ void CuadrilateroGL(const EsquinaGL (&esquinas)[4], const ColorGL (&colores)[4])
         puntos[i] = {esquinas[i].x, esquinas[i].y};
         tintas[i] = TintaDe(colores[i]);
     }
-    trazo::Cuadrilatero(e.FormasMezcladas(), e.lapiz, puntos, tintas);
+    trazo::Cuadrilatero(e.Areas(), e.lapiz, puntos, tintas);
 }
 
 int MedirTextoGL(const QString& texto, int tamano, bool negrita)
